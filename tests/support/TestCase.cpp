@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "TestCase.h"
+
+compat::MessageHandler TestCase::previousHandler = nullptr;
+QStringList TestCase::expected;
+QStringList TestCase::toleratedPrefixes;
+QStringList TestCase::unexpected;
+
+namespace {
+
+bool startsWithOneOf(const QString &message, const QStringList &prefixes)
+{
+    for (const QString &prefix : prefixes) {
+        if (message.startsWith(prefix)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+void TestCase::expectWarning(const QString &message)
+{
+    expected.append(message);
+}
+
+void TestCase::tolerateWarnings(const QString &prefix)
+{
+    toleratedPrefixes.append(prefix);
+}
+
+void TestCase::init()
+{
+    // What a platform plug-in says about itself is not about the code under test.
+    toleratedPrefixes = QStringList(QLatin1String("This plugin does not support"));
+    expected.clear();
+    unexpected.clear();
+    previousHandler = compat::installMessageReceiver(receive);
+}
+
+void TestCase::cleanup()
+{
+    compat::restoreMessageHandler(previousHandler);
+    QVERIFY2(unexpected.isEmpty(),
+             qPrintable(QLatin1String("Warned: ") + unexpected.join(QLatin1String("; "))));
+    QVERIFY2(expected.isEmpty(),
+             qPrintable(QLatin1String("Did not warn: ") + expected.join(QLatin1String("; "))));
+}
+
+void TestCase::receive(QtMsgType type, const QString &message)
+{
+    const bool isWarning = type == QtWarningMsg || type == QtCriticalMsg;
+    if (isWarning && expected.removeOne(message)) {
+        return;
+    }
+    if (isWarning && !startsWithOneOf(message, toleratedPrefixes)) {
+        unexpected.append(message);
+    }
+    compat::passMessage(previousHandler, type, message);
+}
+
+void choosePlatform()
+{
+    if (qgetenv("QT_QPA_PLATFORM").isEmpty()) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}

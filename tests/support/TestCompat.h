@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#ifndef TESSALINE_TESTCOMPAT_H
+#define TESSALINE_TESTCOMPAT_H
+
+#include <QAccessible>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QHeaderView>
+#include <QList>
+#include <QMetaMethod>
+#include <QMetaProperty>
+#include <QPixmap>
+#include <QTranslator>
+#include <QWidget>
+#include <QtTest>
+
+/// What the tests need of Qt Test and QtCore that Qt 4, 5 and 6 call differently.
+
+typedef void (*MessageReceiver)(QtMsgType type, const QString &message);
+
+namespace compat {
+
+namespace detail {
+inline MessageReceiver &messageReceiver()
+{
+    static MessageReceiver receiver = nullptr;
+    return receiver;
+}
+} // namespace detail
+
+#if QT_VERSION < 0x050000
+
+typedef QtMsgHandler MessageHandler;
+
+namespace detail {
+inline void receiveMessage(QtMsgType type, const char *message)
+{
+    messageReceiver()(type, QString::fromLocal8Bit(message));
+}
+} // namespace detail
+
+inline MessageHandler installMessageReceiver(MessageReceiver receiver)
+{
+    detail::messageReceiver() = receiver;
+    return qInstallMsgHandler(detail::receiveMessage);
+}
+
+inline void restoreMessageHandler(MessageHandler handler)
+{
+    qInstallMsgHandler(handler);
+}
+
+inline void passMessage(MessageHandler handler, QtMsgType type, const QString &message)
+{
+    if (handler) {
+        handler(type, message.toLocal8Bit().constData());
+    }
+}
+
+inline QByteArray methodSignature(const QMetaMethod &method)
+{
+    return method.signature();
+}
+
+inline QByteArray methodName(const QMetaMethod &method)
+{
+    const QByteArray signature = method.signature();
+    return signature.left(signature.indexOf('('));
+}
+
+inline void waitUntilShown(QWidget *window)
+{
+    QTest::qWaitForWindowShown(window);
+}
+
+inline QString accessibleDescription(QAccessibleInterface *accessible)
+{
+    return accessible->text(QAccessible::Description, 0);
+}
+
+inline QPixmap grab(QWidget *widget)
+{
+    return QPixmap::grabWidget(widget);
+}
+
+inline bool sectionsClickable(const QHeaderView *header)
+{
+    return header->isClickable();
+}
+
+inline void fixSection(QHeaderView *header, int section)
+{
+    header->setResizeMode(section, QHeaderView::Fixed);
+}
+
+/// The access that moc gives to signals.
+const QMetaMethod::Access signalAccess = QMetaMethod::Protected;
+
+#else
+
+typedef QtMessageHandler MessageHandler;
+
+namespace detail {
+inline void receiveMessage(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    messageReceiver()(type, message);
+}
+} // namespace detail
+
+inline MessageHandler installMessageReceiver(MessageReceiver receiver)
+{
+    detail::messageReceiver() = receiver;
+    return qInstallMessageHandler(detail::receiveMessage);
+}
+
+inline void restoreMessageHandler(MessageHandler handler)
+{
+    qInstallMessageHandler(handler);
+}
+
+inline void passMessage(MessageHandler handler, QtMsgType type, const QString &message)
+{
+    if (handler) {
+        handler(type, QMessageLogContext(), message);
+    }
+}
+
+inline QByteArray methodSignature(const QMetaMethod &method)
+{
+    return method.methodSignature();
+}
+
+inline QByteArray methodName(const QMetaMethod &method)
+{
+    return method.name();
+}
+
+inline void waitUntilShown(QWidget *window)
+{
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+}
+
+inline QString accessibleDescription(QAccessibleInterface *accessible)
+{
+    return accessible->text(QAccessible::Description);
+}
+
+inline QPixmap grab(QWidget *widget)
+{
+    return widget->grab();
+}
+
+inline bool sectionsClickable(const QHeaderView *header)
+{
+    return header->sectionsClickable();
+}
+
+inline void fixSection(QHeaderView *header, int section)
+{
+    header->setSectionResizeMode(section, QHeaderView::Fixed);
+}
+
+/// The access that moc gives to signals.
+const QMetaMethod::Access signalAccess = QMetaMethod::Public;
+
+#endif
+
+#if QT_VERSION < 0x060000
+
+/// Whether a property is designable, scriptable and stored.
+inline QList<bool> flags(const QMetaProperty &property, const QObject *object)
+{
+    return QList<bool>() << property.isDesignable(object) << property.isScriptable(object)
+                         << property.isStored(object);
+}
+
+#else
+
+inline QList<bool> flags(const QMetaProperty &property, const QObject *)
+{
+    return QList<bool>() << property.isDesignable() << property.isScriptable()
+                         << property.isStored();
+}
+
+#endif
+
+/// Carries out deleteLater() on all versions; waiting alone does so since Qt 5 only.
+inline void deliverDeferredDeletes()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// A translator whose one method has the same parameters everywhere.
+class Translator : public QTranslator
+{
+public:
+    bool isEmpty() const override
+    {
+        return false;
+    }
+
+#if QT_VERSION < 0x050000
+    QString translate(const char *context, const char *source, const char *) const override
+    {
+        return find(QByteArray(context), QByteArray(source));
+    }
+#else
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        return find(QByteArray(context), QByteArray(source));
+    }
+#endif
+
+protected:
+    virtual QString find(const QByteArray &context, const QByteArray &source) const = 0;
+};
+
+} // namespace compat
+
+#ifndef QTRY_VERIFY
+#define QTRY_VERIFY(condition)                                            \
+    do {                                                                  \
+        for (int attempt = 0; attempt < 100 && !(condition); ++attempt) { \
+            QTest::qWait(50);                                             \
+        }                                                                 \
+        QVERIFY(condition);                                               \
+    } while (false)
+#endif
+
+#ifndef QTRY_COMPARE
+#define QTRY_COMPARE(actual, expected)                                                 \
+    do {                                                                               \
+        for (int attempt = 0; attempt < 100 && !((actual) == (expected)); ++attempt) { \
+            QTest::qWait(50);                                                          \
+        }                                                                              \
+        QCOMPARE(actual, expected);                                                    \
+    } while (false)
+#endif
+
+#endif

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#ifndef TESSALINE_QTCOMPAT_H
+#define TESSALINE_QTCOMPAT_H
+
+#include <QHeaderView>
+#include <QMetaType>
+#include <QString>
+#include <QVariant>
+
+/// What Qt 4, 5 and 6 call or do differently, so that no other source needs to ask which Qt it has.
+namespace compat {
+
+#if QT_VERSION < 0x050000
+
+/// Whether an item view in CollapsingState puts off a posted layout of its items. Qt 4 does not.
+const bool collapsingHoldsLayout = false;
+
+inline void setSectionsClickable(QHeaderView *header, bool clickable)
+{
+    header->setClickable(clickable);
+}
+
+inline void setSectionResizeMode(QHeaderView *header, QHeaderView::ResizeMode mode)
+{
+    header->setResizeMode(mode);
+}
+
+inline QHeaderView::ResizeMode sectionResizeMode(const QHeaderView *header, int section)
+{
+    return header->resizeMode(section);
+}
+
+/// Gives a section any size from 0 up. A negative size is taken as 0.
+inline void resizeSection(QHeaderView *header, int section, int size)
+{
+    header->resizeSection(section, qMax(0, size));
+}
+
+/// The bytes under which tr() looks a text up that is only known at run time.
+inline QByteArray trSource(const QString &text)
+{
+    return text.toLatin1();
+}
+
+#else
+
+/// Whether an item view in CollapsingState puts off a posted layout of its items.
+const bool collapsingHoldsLayout = true;
+
+inline void setSectionsClickable(QHeaderView *header, bool clickable)
+{
+    header->setSectionsClickable(clickable);
+}
+
+inline void setSectionResizeMode(QHeaderView *header, QHeaderView::ResizeMode mode)
+{
+    header->setSectionResizeMode(mode);
+}
+
+inline QHeaderView::ResizeMode sectionResizeMode(const QHeaderView *header, int section)
+{
+    return header->sectionResizeMode(section);
+}
+
+/// Gives a section any size from 0 up. A negative size is taken as 0.
+///
+/// Since Qt 5 the header's minimum, meant for the user's mouse, bounds programs too. So it is put
+/// aside for this one call: lowered for good it would let the user drag a section out of sight.
+inline void resizeSection(QHeaderView *header, int section, int size)
+{
+    const int minimum = header->minimumSectionSize();
+    if (size >= minimum) {
+        header->resizeSection(section, size);
+        return;
+    }
+    header->setMinimumSectionSize(-1);
+    const bool styleDecides = header->minimumSectionSize() == minimum;
+    header->setMinimumSectionSize(0);
+    header->resizeSection(section, qMax(0, size));
+    header->setMinimumSectionSize(styleDecides ? -1 : minimum);
+}
+
+/// The bytes under which tr() looks a text up that is only known at run time. Characters outside
+/// Latin-1 become "?", as they always did; since Qt 5 tr() reads UTF-8.
+inline QByteArray trSource(const QString &text)
+{
+    return QString::fromLatin1(text.toLatin1()).toUtf8();
+}
+
+#endif
+
+/// QVariant::toString as Qt 4 has it: a double with 15 and a float with 6 significant digits, where
+/// newer versions write the shortest form ("1e+06" for a million).
+inline QString text(const QVariant &value)
+{
+    switch (value.userType()) {
+    case QMetaType::Double:
+        return QString::number(value.toDouble(), 'g', 15);
+    case QMetaType::Float:
+        return QString::number(value.toDouble(), 'g', 6);
+    default:
+        return value.toString();
+    }
+}
+
+} // namespace compat
+
+#endif
