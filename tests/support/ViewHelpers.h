@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#ifndef TESSALINE_VIEWHELPERS_H
+#define TESSALINE_VIEWHELPERS_H
+
+#include <QModelIndex>
+#include <QString>
+#include <QStringList>
+
+class QAbstractItemModel;
+class QAbstractItemView;
+class QPushButton;
+class QTableView;
+class QWidget;
+
+/// Turn what a view shows into short texts, and drive it as a user would.
+
+/// The list ("a", "b") from "a|b"; none from the empty text.
+QStringList split(const QString &text);
+
+/// Shows a window of this size and gives it the focus.
+void showWindow(QWidget *window, int width, int height);
+
+/// The widths of a view's columns, such as "100,200,100".
+QString widths(const QTableView &view);
+
+/// Sets all widths of a view from such a text, without its compensation.
+void setWidths(QTableView *view, const QString &text);
+
+/// Where in one column a view shows an index widget, a mark a row: "x.x".
+QString buttonMarks(const QTableView &view, int column);
+
+/// The Qt::EditRole texts of one column, such as "a,b".
+QString texts(const QAbstractItemModel &model, int column);
+
+/// All push buttons that a view holds, those about to be deleted left out.
+int buttonCount(const QAbstractItemView &view);
+
+/// Opens a cell's editor with the edit key and returns it; null if none opens.
+QWidget *openEditor(QTableView *view, const QModelIndex &index);
+
+/// Ends an edit with the Return key and waits until the view has taken the value.
+void commitEditor(QWidget *editor);
+
+#endif

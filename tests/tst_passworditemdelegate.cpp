@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "EditorFixture.h"
+#include "PasswordItemDelegate.h"
+#include "TestCase.h"
+#include "ViewHelpers.h"
+
+#include <QLineEdit>
+
+namespace {
+
+const int secretRole = Qt::UserRole + 1;
+
+QString mask(const EditorFixture &fixture, int length)
+{
+    const int character
+        = fixture.view.style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, nullptr);
+    return QString(length, QChar(ushort(character)));
+}
+
+} // namespace
+
+class PasswordItemDelegateTest : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void opensAMaskedLineEditOverTheCell();
+    void opensWithTheMaskAndNeverWithTheSecret();
+    void storesATypedSecretApartFromItsMask();
+    void rewritesTheMaskOnlyWhenCommittedUntouched();
+    void writesNothingIntoAnEmptyCellLeftEmpty();
+    void clearingTheFieldClearsSecretAndMask();
+    void decidesOnTheMaskByWhatTheModelHolds_data();
+    void decidesOnTheMaskByWhatTheModelHolds();
+    void masksWhatWasTypedThoughTheFieldIsLoadedAgain();
+    void survivesARowThatGoesWithItsFirstWrite();
+    void leavesAForeignEditorAlone();
+};
+
+void PasswordItemDelegateTest::opensAMaskedLineEditOverTheCell()
+{
+    EditorFixture fixture("passwordbox");
+
+    QLineEdit *field = qobject_cast<QLineEdit *>(fixture.open(1, 1));
+
+    QVERIFY(field);
+    QVERIFY(!field->hasFrame());
+    QCOMPARE(field->echoMode(), QLineEdit::Password);
+    verifyDressed(&fixture, field, 1, 1, "EditableTableViewPassword column1");
+}
+
+void PasswordItemDelegateTest::opensWithTheMaskAndNeverWithTheSecret()
+{
+    EditorFixture fixture("passwordbox");
+    fixture.model.put(0, 0, "secret", secretRole);
+
+    QLineEdit *field = qobject_cast<QLineEdit *>(fixture.open(0, 0, "******"));
+
+    QVERIFY(field);
+    QCOMPARE(field->text(), QString("******"));
+}
+
+void PasswordItemDelegateTest::storesATypedSecretApartFromItsMask()
+{
+    EditorFixture fixture("passwordbox");
+    QWidget *field = fixture.open(0, 0);
+    QVERIFY(field);
+    QTest::keyClicks(field, "abc");
+
+    commitEditor(field);
+
+    QCOMPARE(fixture.model.writes,
+             QStringList() << "secret abc" << QString("display " + mask(fixture, 3)));
+    QCOMPARE(fixture.cell(0, 0, secretRole).toString(), QString("abc"));
+    QCOMPARE(fixture.cell(0, 0, Qt::DisplayRole).toString(), mask(fixture, 3));
+    QCOMPARE(fixture.cell(0, 0, Qt::EditRole).toString(), mask(fixture, 3));
+}
+
+void PasswordItemDelegateTest::rewritesTheMaskOnlyWhenCommittedUntouched()
+{
+    EditorFixture fixture("passwordbox");
+    fixture.model.put(0, 0, "secret", secretRole);
+    QWidget *field = fixture.open(0, 0, mask(fixture, 6));
+    QVERIFY(field);
+
+    commitEditor(field);
+
+    QCOMPARE(fixture.model.writes, QStringList() << QString("display " + mask(fixture, 6)));
+    QCOMPARE(fixture.cell(0, 0, secretRole).toString(), QString("secret"));
+}
+
+void PasswordItemDelegateTest::writesNothingIntoAnEmptyCellLeftEmpty()
+{
+    EditorFixture fixture("passwordbox");
+    QWidget *field = fixture.open(0, 0);
+    QVERIFY(field);
+
+    commitEditor(field);
+
+    QCOMPARE(fixture.model.writes, QStringList());
+}
+
+void PasswordItemDelegateTest::clearingTheFieldClearsSecretAndMask()
+{
+    EditorFixture fixture("passwordbox");
+    fixture.model.put(0, 0, "secret", secretRole);
+    QWidget *field = fixture.open(0, 0, mask(fixture, 6));
+    QVERIFY(field);
+    QTest::keyClick(field, Qt::Key_Delete); // the text is selected
+
+    commitEditor(field);
+
+    QCOMPARE(fixture.model.writes,
+             QStringList() << "secret "
+                           << "display ");
+    QCOMPARE(fixture.cell(0, 0, secretRole).toString(), QString());
+    QCOMPARE(fixture.cell(0, 0, Qt::DisplayRole).toString(), QString());
+}
+
+void PasswordItemDelegateTest::decidesOnTheMaskByWhatTheModelHolds_data()
+{
+    QTest::addColumn<QString>("fieldText");
+    QTest::addColumn<QString>("secret");
+    QTest::addColumn<QString>("display");
+    QTest::addColumn<bool>("writesMask");
+
+    QTest::newRow("all empty") << ""
+                               << ""
+                               << "" << false;
+    QTest::newRow("field only") << "x"
+                                << ""
+                                << "" << true;
+    QTest::newRow("secret only") << ""
+                                 << "s"
+                                 << "" << true;
+    QTest::newRow("display only") << ""
+                                  << ""
+                                  << "*" << true;
+}
+
+void PasswordItemDelegateTest::decidesOnTheMaskByWhatTheModelHolds()
+{
+    QFETCH(QString, fieldText);
+    QFETCH(QString, secret);
+    QFETCH(QString, display);
+    QFETCH(bool, writesMask);
+    RecordingModel model(1, 1);
+    model.put(0, 0, display, Qt::DisplayRole);
+    model.put(0, 0, secret, secretRole);
+    const PasswordItemDelegate delegate;
+    QLineEdit field;
+    field.setEchoMode(QLineEdit::Password);
+    field.setText(fieldText); // as loaded, not as typed
+
+    delegate.setModelData(&field, &model, model.index(0, 0));
+
+    const QStringList mask(QString("display ") + field.displayText());
+    QCOMPARE(model.writes, writesMask ? mask : QStringList());
+}
+
+void PasswordItemDelegateTest::masksWhatWasTypedThoughTheFieldIsLoadedAgain()
+{
+    EditorFixture fixture("passwordbox");
+    fixture.model.put(0, 0, "old", secretRole);
+    QWidget *field = fixture.open(0, 0, mask(fixture, 3));
+    QVERIFY(field);
+    QTest::keyClicks(field, "longer");
+
+    commitEditor(field);
+
+    QCOMPARE(fixture.cell(0, 0, secretRole).toString(), QString("longer"));
+    QCOMPARE(fixture.cell(0, 0, Qt::DisplayRole).toString(), mask(fixture, 6));
+}
+
+namespace {
+
+/// Removes a row as soon as it is written into.
+class RowEater : public RecordingModel
+{
+public:
+    RowEater()
+        : RecordingModel(1, 1)
+    {
+    }
+
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override
+    {
+        const int row = index.row();
+        RecordingModel::setData(index, value, role);
+        return removeRow(row);
+    }
+};
+
+} // namespace
+
+void PasswordItemDelegateTest::survivesARowThatGoesWithItsFirstWrite()
+{
+    RowEater model;
+    const PasswordItemDelegate delegate;
+    QLineEdit field;
+    QTest::keyClicks(&field, "abc");
+
+    delegate.setModelData(&field, &model, model.index(0, 0));
+
+    QCOMPARE(model.writes, QStringList() << "secret abc");
+}
+
+void PasswordItemDelegateTest::leavesAForeignEditorAlone()
+{
+    verifyLeavesForeignEditorAlone("passwordbox");
+}
+
+TESSALINE_TEST_MAIN(PasswordItemDelegateTest)
+#include "tst_passworditemdelegate.moc"

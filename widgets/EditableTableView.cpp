@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "EditableTableView.h"
+
+#include "CellButton.h"
+#include "CellEditor.h"
+#include "CheckItemDelegate.h"
+#include "ColumnDeclaration.h"
+#include "EditComboItemDelegate.h"
+#include "PasswordItemDelegate.h"
+#include "QtCompat.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QPointer>
+
+namespace {
+
+const int narrowestAbsorber = 20; // pixels
+
+// None has a parent: delegates live from one setColumns() to the next, whatever becomes of the
+// view.
+QItemDelegate *createDelegate(const ColumnDeclaration &declaration)
+{
+    switch (declaration.type) {
+    case ColumnDeclaration::Combo:
+        return new ComboItemDelegate;
+    case ColumnDeclaration::EditCombo:
+        return new EditComboItemDelegate;
+    case ColumnDeclaration::Edit:
+        return new EditItemDelegate;
+    case ColumnDeclaration::Password:
+        return new PasswordItemDelegate;
+    case ColumnDeclaration::Check:
+        return new CheckItemDelegate(declaration.text);
+    case ColumnDeclaration::Button:
+    case ColumnDeclaration::Plain:
+        break;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+// Columns
+
+EditableTableView::EditableTableView(QWidget *parent)
+    : QTableView(parent)
+    , stretchSection(0)
+    , resizing(false)
+{
+    connect(horizontalHeader(),
+            SIGNAL(sectionResized(int,int,int)), SLOT(sectionResized(int,int,int)));
+    connect(this, SIGNAL(resizeView()), SLOT(resized()));
+
+    horizontalHeader()->setStretchLastSection(false);
+    compat::setSectionResizeMode(horizontalHeader(), QHeaderView::Interactive);
+    horizontalHeader()->setHighlightSections(false);
+    compat::setSectionsClickable(horizontalHeader(), false);
+    verticalHeader()->hide();
+}
+
+EditableTableView::~EditableTableView() = default;
+
+QStringList EditableTableView::getColumns() const
+{
+    return columns;
+}
+
+void EditableTableView::setColumns(const QStringList &declarations)
+{
+    finishEditing();
+    columns = declarations;
+    discardDelegates();
+    for (int column = 0; column < columns.size(); ++column) {
+        declareColumn(column, columns.at(column));
+    }
+}
+
+int EditableTableView::getStretchSection() const
+{
+    return stretchSection;
+}
+
+void EditableTableView::setStretchSection(int section)
+{
+    stretchSection = section;
+}
+
+void EditableTableView::setModel(QAbstractItemModel *model)
+{
+    QTableView::setModel(model);
+    const int rowCount = model ? model->rowCount() : 0;
+    for (int row = 0; row < rowCount; ++row) {
+        rowsInserted(QModelIndex(), row, row);
+    }
+}
+
+void EditableTableView::setHorizontalHeaderClickable(bool clickable)
+{
+    compat::setSectionsClickable(horizontalHeader(), clickable);
+}
+
+// An editor that loses its delegate can't be closed any more, and what stands in it would later be
+// written by whichever delegate follows: a secret as plain text.
+void EditableTableView::finishEditing()
+{
+    const QModelIndex cell = currentIndex();
+    QItemDelegate *delegate = delegates.value(cell.column());
+    QPointer<QWidget> editor = indexWidget(cell);
+    if (!delegate || !editor || itemDelegateForColumn(cell.column()) != delegate) {
+        return;
+    }
+    if (!CellEditor::Commit::isUnderWay()) {
+        commitData(editor);
+    }
+    if (editor) {
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
+}
+
+void EditableTableView::discardDelegates()
+{
+    const QMap<int, QItemDelegate *> discarded = delegates;
+    delegates.clear();
+    buttonCaptions.clear();
+    for (auto entry = discarded.begin(); entry != discarded.end(); ++entry) {
+        // The view would follow a deleted delegate at the next paint, so it must let go first.
+        if (itemDelegateForColumn(entry.key()) == entry.value()) {
+            setItemDelegateForColumn(entry.key(), nullptr);
+        }
+        // Qt goes on to use a delegate after it has written into the model.
+        if (CellEditor::Commit::isUnderWay()) {
+            entry.value()->deleteLater();
+        } else {
+            delete entry.value();
+        }
+    }
+}
+
+void EditableTableView::declareColumn(int column, const QString &declaration)
+{
+    const ColumnDeclaration declared(declaration);
+    if (declared.type == ColumnDeclaration::Button) {
+        buttonCaptions.insert(column, declared.text);
+    } else if (QItemDelegate *delegate = createDelegate(declared)) {
+        delegates.insert(column, delegate);
+        setItemDelegateForColumn(column, delegate);
+    }
+}
+
+// Section sizing: the columns together fill the view; one section takes up each difference.
+
+void EditableTableView::resizeEvent(QResizeEvent *event)
+{
+    QAbstractItemView::resizeEvent(event);
+    emit resizeView();
+}
+
+void EditableTableView::resizeSection(int section, int size)
+{
+    resizing = true;
+    compat::resizeSection(horizontalHeader(), section, size);
+    resizing = false;
+}
+
+void EditableTableView::resized()
+{
+    resize(stretchSection);
+}
+
+// The neighbour is found by its logical index and that is then taken for a visual position, on
+// purpose: the two agree until sections are moved, and what happens then is part of the interface.
+void EditableTableView::sectionResized(int index, int, int)
+{
+    const int count = model() ? model()->columnCount() : 0;
+    if (index >= count - 1) {
+        return;
+    }
+    const bool rightIsFixed
+        = compat::sectionResizeMode(horizontalHeader(), index + 1) == QHeaderView::Fixed;
+    const int neighbour = qMax(0, rightIsFixed ? index - 1 : index + 1);
+    resize(horizontalHeader()->logicalIndex(neighbour));
+}
+
+void EditableTableView::resize(int section)
+{
+    // Without a model the header may still report sections, while a model comes or goes.
+    if (resizing || !model() || horizontalHeader()->visualIndex(section) == -1) {
+        return;
+    }
+    resizing = true;
+    const int size
+        = horizontalHeader()->sectionSize(section) + horizontalHeader()->width() - totalWidth();
+    compat::resizeSection(horizontalHeader(), section, qMax(narrowestAbsorber, size));
+    resizing = false;
+}
+
+int EditableTableView::totalWidth() const
+{
+    int total = 0;
+    for (int section = 0; section < model()->columnCount(); ++section) {
+        total += horizontalHeader()->sectionSize(section);
+    }
+    return total;
+}
+
+// Buttons and binding
+
+void EditableTableView::bindModel(int columnIndex, QObject *model, int modelColumn)
+{
+    ComboItemDelegate *delegate = qobject_cast<ComboItemDelegate *>(delegates.value(columnIndex));
+    QAbstractItemModel *items = qobject_cast<QAbstractItemModel *>(model);
+    if (delegate && items) {
+        delegate->bindModel(items, modelColumn);
+    }
+}
+
+QWidget *EditableTableView::button(int row, int column)
+{
+    return model() ? indexWidget(model()->index(row, column)) : nullptr;
+}
+
+void EditableTableView::rowsInserted(const QModelIndex &parent, int start, int end)
+{
+    // Each button posts a layout of the whole view, and the base class would carry out the one that
+    // the previous row posted: quadratic in a view that is shown. Held back, it is done once, when
+    // the event loop turns.
+    const State current = state();
+    if (compat::collapsingHoldsLayout) {
+        setState(CollapsingState);
+    }
+    QAbstractItemView::rowsInserted(parent, start, end);
+    setState(current);
+
+    for (auto caption = buttonCaptions.begin(); caption != buttonCaptions.end(); ++caption) {
+        const QModelIndex cell
+            = model() ? model()->index(start, caption.key(), parent) : QModelIndex();
+        if (cell.isValid() && !indexWidget(cell)) {
+            addButton(caption.key(), cell);
+        }
+    }
+}
+
+void EditableTableView::rowsAboutToBeRemoved(const QModelIndex &parent, int start, int end)
+{
+    setTabKeyNavigation(false); // for good: nothing switches it on again, on purpose
+    QAbstractItemView::rowsAboutToBeRemoved(parent, start, end);
+}
+
+void EditableTableView::buttonClicked()
+{
+    CellButton *source = dynamic_cast<CellButton *>(sender());
+    if (!source || !source->index.isValid()) {
+        return;
+    }
+    const QPersistentModelIndex cell = source->index;
+    emit buttonClicked(source, cell.row(), cell.column(), rowData(cell));
+}
+
+void EditableTableView::addButton(int column, const QModelIndex &cell)
+{
+    const QString caption = tr(compat::trSource(buttonCaptions.value(column)).constData());
+    CellButton *button = new CellButton(caption, true, nullptr);
+    connect(button, SIGNAL(clicked()), SLOT(buttonClicked()));
+    button->setAccessibleDescription(QLatin1String("EditableTableViewButton column")
+                                     + QString::number(column));
+    button->index = cell;
+    // A size of its own, even none, saves a size hint that the layout would throw away.
+    button->resize(0, 0);
+    setIndexWidget(cell, button);
+    // Since Qt 5 the view would make the cell of a button that gets the focus current, and scroll
+    // to it under the mouse. A click is only to be reported.
+    button->removeEventFilter(this);
+    // What was posted to the button so far is done or moot: it is polished, and too small to paint.
+    // Left there it makes Qt search an ever longer queue, once a button.
+    QCoreApplication::removePostedEvents(button);
+}
+
+QStringList EditableTableView::rowData(const QModelIndex &cell) const
+{
+    QStringList texts;
+    for (auto entry = delegates.begin(); entry != delegates.end(); ++entry) {
+        const QModelIndex sibling = cell.model()->index(cell.row(), entry.key(), cell.parent());
+        texts.append(compat::text(sibling.data(Qt::EditRole)));
+    }
+    return texts;
+}
