@@ -17,7 +17,14 @@ class OpenTableView : public EditableTableView
 public:
     using EditableTableView::rowsInserted;
 
+    void doItemsLayout() override
+    {
+        ++layouts;
+        EditableTableView::doItemsLayout();
+    }
+
     QStringList announced;
+    int layouts = 0;
 
 protected:
     void rowsInserted(const QModelIndex &parent, int start, int end) override
@@ -111,6 +118,7 @@ private Q_SLOTS:
     void makesNoButtonsForShownRowsWhenColumnsAreDeclared();
     void reportsAClick();
     void reportsOnlyEditableCellsOfTheRow();
+    void reportsTheCellsOfTheLatestDeclarations();
     void reportsTheRowWhereTheButtonIsNow();
     void reportsAKeyPress();
     void leavesTheCurrentCellAloneWhenAButtonGetsTheFocus();
@@ -124,6 +132,8 @@ private Q_SLOTS:
     void bindsAComboColumn();
     void coversItsCellInAShownView();
     void laysOutRowsAppendedToAShownView();
+    void showsNoButtonInAWrongPlaceBeforeTheLayout();
+    void laysOutABurstOfRowsOnce();
     void keepsAnEditorOpenWhenARowIsInserted();
 };
 
@@ -312,6 +322,23 @@ void ButtonCellsTest::reportsOnlyEditableCellsOfTheRow()
 
     // The model has no column 8, whose declaration still takes its place.
     QCOMPARE(report(spy), QString("1/7:b,1,1000000,typed,***,"));
+}
+
+void ButtonCellsTest::reportsTheCellsOfTheLatestDeclarations()
+{
+    Table table(QStringList() << "editbox"
+                              << "button"
+                              << "editbox",
+                3);
+    table.view.setColumns(QStringList() << ""
+                                        << "button"
+                                        << "checkbox");
+    table.model.setData(table.model.index(0, 2), "1");
+    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
+
+    table.button(0)->click();
+
+    QCOMPARE(report(spy), QString("0/1:1"));
 }
 
 void ButtonCellsTest::reportsTheRowWhereTheButtonIsNow()
@@ -504,6 +531,35 @@ void ButtonCellsTest::laysOutRowsAppendedToAShownView()
     for (int row = 0; row < 6; ++row) {
         QCOMPARE(table.button(row)->geometry(), table.view.visualRect(table.model.index(row, 1)));
     }
+}
+
+void ButtonCellsTest::showsNoButtonInAWrongPlaceBeforeTheLayout()
+{
+    Table table;
+    showWindow(&table.view, 400, 300);
+
+    table.model.insertRow(3);
+    table.model.insertRow(4);
+
+    for (int row = 3; row < 5; ++row) {
+        const QRect place = table.button(row)->geometry();
+        QVERIFY(place.isEmpty() || place == table.view.visualRect(table.model.index(row, 1)));
+    }
+}
+
+void ButtonCellsTest::laysOutABurstOfRowsOnce()
+{
+    Table table;
+    showWindow(&table.view, 400, 300);
+    QCoreApplication::processEvents();
+    table.view.layouts = 0;
+
+    for (int row = 3; row < 23; ++row) {
+        table.model.insertRow(row);
+    }
+    QCoreApplication::processEvents();
+
+    QVERIFY(table.view.layouts <= 2);
 }
 
 void ButtonCellsTest::keepsAnEditorOpenWhenARowIsInserted()

@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QPainter>
+#include <QProxyStyle>
 #include <QStyleOptionButton>
 
 namespace {
@@ -40,6 +41,26 @@ QImage drawnByDelegate(const CheckItemDelegate &delegate, QStyleOptionViewItem o
     return image;
 }
 
+/// Notes what a delegate asks the application's style to draw.
+class NotingStyle : public QProxyStyle
+{
+public:
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        if (element == CE_CheckBox) {
+            drawn = *qstyleoption_cast<const QStyleOptionButton *>(option);
+            drawnFor = widget;
+            ++checkBoxes;
+        }
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+
+    mutable QStyleOptionButton drawn;
+    mutable const QWidget *drawnFor = nullptr;
+    mutable int checkBoxes = 0;
+};
+
 class GermanLabels : public compat::Translator
 {
 protected:
@@ -66,6 +87,7 @@ private Q_SLOTS:
     void writesOnlyAChangedState();
     void paintsWhatTheStyleDraws_data();
     void paintsWhatTheStyleDraws();
+    void asksTheStyleForAFlatEnabledCheckBox();
     void paintsTheSameWhateverTheViewLooksLike();
     void paintsTheWholeCellOfAView();
     void translatesItsLabelWheneverItIsShown();
@@ -178,6 +200,27 @@ void CheckItemDelegateTest::paintsWhatTheStyleDraws()
 
     QCOMPARE(drawn, drawnByStyle(label, checked));
     QVERIFY(drawn != drawnByStyle(label, !checked));
+}
+
+void CheckItemDelegateTest::asksTheStyleForAFlatEnabledCheckBox()
+{
+    QStandardItemModel model(1, 1);
+    model.setData(model.index(0, 0), "0");
+    const CheckItemDelegate delegate("Verify");
+    const QString previousStyle = QApplication::style()->objectName();
+    NotingStyle *style = new NotingStyle; // the application owns its style
+    QApplication::setStyle(style);
+
+    drawnByDelegate(delegate, QStyleOptionViewItem(), model.index(0, 0));
+
+    const QStyleOptionButton drawn = style->drawn;
+    QCOMPARE(style->checkBoxes, 1);
+    QVERIFY(!style->drawnFor);
+    QApplication::setStyle(previousStyle);
+    QCOMPARE(int(drawn.features), int(QStyleOptionButton::Flat));
+    QCOMPARE(int(drawn.state), int(QStyle::State_Enabled | QStyle::State_On));
+    QCOMPARE(drawn.rect, cellRect);
+    QCOMPARE(drawn.text, QString("Verify"));
 }
 
 void CheckItemDelegateTest::paintsTheSameWhateverTheViewLooksLike()

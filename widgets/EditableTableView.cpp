@@ -280,7 +280,7 @@ QStringList EditableTableView::rowData(const QModelIndex &cell) const
 {
     QStringList texts;
     for (auto entry = delegates.begin(); entry != delegates.end(); ++entry) {
-        const QModelIndex sibling = cell.model()->index(cell.row(), entry.key(), cell.parent());
+        const QModelIndex sibling = cell.sibling(cell.row(), entry.key());
         texts.append(compat::text(sibling.data(Qt::EditRole)));
     }
     return texts;

@@ -30,6 +30,8 @@ class QItemDelegate;
 class TESSALINE_EXPORT EditableTableView : public QTableView
 {
     Q_OBJECT
+    // The signals, and their names, are part of a fixed interface.
+    // clazy:excludeall=qproperty-without-notify,overloaded-signal
 
     /// The declarations, one string a column, exactly as they were given. Empty by default.
     /// Declare the columns before setting the model: rows that are already shown get no buttons.
