@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "BackupTestTools.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QStorageInfo>
+#include <QTest>
+
+#include <unistd.h>
+
+namespace {
+
+/// Runs a job however long it takes, and finds out how long the event loop had to wait for it.
+class LongRun : public QObject
+{
+public:
+    explicit LongRun(const BackupJob &job)
+    {
+        connect(&m_ticker, &QTimer::timeout, this, [this] {
+            longestWait = qMax(longestWait, m_sinceTurn.restart());
+        });
+        connect(&m_engine, &BackupEngine::progressChanged, this,
+                [this](const BackupProgress &progress) {
+                    lastProgress = progress;
+                });
+        connect(&m_engine, &BackupEngine::finished, this, [this](const BackupSummary &result) {
+            summary = result;
+            m_loop.quit();
+        });
+        QString refusal;
+        if (m_engine.start(job, &refusal)) {
+            m_sinceTurn.start();
+            m_ticker.start(0);
+            m_loop.exec();
+        }
+    }
+
+    BackupSummary summary;
+    BackupProgress lastProgress;
+    qint64 longestWait = 0; ///< Milliseconds.
+
+private:
+    BackupEngine m_engine;
+    QEventLoop m_loop;
+    QTimer m_ticker;
+    QElapsedTimer m_sinceTurn;
+};
+
+} // namespace
+
+/// What takes long: sizes beyond 32 bits, and many files.
+class tst_BackupLarge : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void copiesAndVerifiesMoreThanFourGibibytes();
+    void staysResponsiveWithAHundredThousandFiles();
+};
+
+void tst_BackupLarge::copiesAndVerifiesMoreThanFourGibibytes()
+{
+    const qint64 size = (4ll << 30) + 5;
+    BackupFolders folders;
+    if (QStorageInfo(QFile::decodeName(folders.root())).bytesAvailable() < 2 * size) {
+        QSKIP("There is no room for a copy of more than 4 GiB.");
+    }
+    folders.write("large", "begin");
+    QCOMPARE(::truncate(folders.source("large").constData(), size), 0);
+    folders.job.verifiesAfterRun = true;
+
+    const LongRun run(folders.job);
+
+    QVERIFY(run.summary.isComplete());
+    QCOMPARE(run.summary.bytesCopied, size);
+    QCOMPARE(run.summary.verifiedFiles, qint64(1));
+    QCOMPARE(run.lastProgress.bytesDone, size);
+    QCOMPARE(stateOf(folders.copy("large")).size, size);
+    qInfo("The longest wait was %d ms.", static_cast<int>(run.longestWait));
+}
+
+void tst_BackupLarge::staysResponsiveWithAHundredThousandFiles()
+{
+    const int count = 100000;
+    // Generous, since a busy disk may hold up a single call.
+    const qint64 longestBearableWait = 1000;
+    BackupFolders folders;
+    for (int number = 0; number < count; ++number) {
+        folders.write(QByteArray::number(number % 100) + '/' + QByteArray::number(number), "x");
+    }
+
+    const LongRun first(folders.job);
+    const LongRun second(folders.job);
+
+    QCOMPARE(first.summary.newFiles, qint64(count));
+    QCOMPARE(second.summary.unchangedFiles, qint64(count));
+    qInfo("The longest wait was %d ms, in the second run %d ms.",
+          static_cast<int>(first.longestWait), static_cast<int>(second.longestWait));
+    QVERIFY(first.longestWait < longestBearableWait);
+    QVERIFY(second.longestWait < longestBearableWait);
+}
+
+QTEST_GUILESS_MAIN(tst_BackupLarge)
+#include "tst_backuplarge.moc"

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "JobsPage.h"
+
+#include "FolderList.h"
+#include "JobModel.h"
+#include "ProgressPanel.h"
+
+#include <EditableTableView.h>
+
+#include <QDir>
+#include <QHeaderView>
+#include <QStringListModel>
+#include <QVBoxLayout>
+
+JobsPage::JobsPage(const QList<BackupJob> &jobs, QWidget *parent)
+    : QWidget(parent)
+    , m_jobs(new JobModel(this))
+    , m_sources(new QStringListModel(FolderList::sources(), this))
+    , m_targets(new QStringListModel(this))
+    , m_table(new EditableTableView)
+    , m_engine(new BackupEngine(this))
+    , m_progress(new ProgressPanel(m_engine))
+{
+    for (const BackupJob &job : jobs) {
+        m_jobs->appendJob(job);
+        FolderList::add(m_sources, job.sourceFolder);
+    }
+    collectTargets();
+    setUpTable();
+    setUpLayout();
+
+    connect(m_jobs, &JobModel::itemChanged, this, &JobsPage::changed);
+    connect(m_jobs, &JobModel::rowsInserted, this, &JobsPage::changed);
+    connect(m_jobs, &JobModel::rowsRemoved, this, &JobsPage::changed);
+    connect(m_jobs, &JobModel::itemChanged, this, &JobsPage::collectTargets);
+}
+
+void JobsPage::addJob()
+{
+    BackupJob job;
+    job.name = tr("New backup");
+    job.sourceFolder = QDir::homePath();
+    m_jobs->appendJob(job);
+
+    const QModelIndex name = m_jobs->index(m_jobs->rowCount() - 1, JobModel::Name);
+    m_table->setFocus();
+    m_table->setCurrentIndex(name);
+    m_table->edit(name);
+}
+
+void JobsPage::addSource(const QString &folder)
+{
+    FolderList::add(m_sources, QDir::cleanPath(folder));
+}
+
+void JobsPage::runJob(int row)
+{
+    const BackupJob job = m_jobs->job(row);
+    QString refusal;
+    if (m_engine->start(job, &refusal)) {
+        m_progress->begin(job.name);
+    } else {
+        m_progress->showRefusal(refusal);
+    }
+}
+
+void JobsPage::removeJob(int row)
+{
+    const QString name = m_jobs->job(row).name;
+    m_jobs->removeRow(row);
+    emit message(tr("Removed \"%1\" from the list; its copies stay where they are").arg(name));
+}
+
+void JobsPage::actOnClick(QWidget *, int row, int column)
+{
+    if (column == JobModel::Run) {
+        runJob(row);
+    } else {
+        removeJob(row);
+    }
+}
+
+// The target column offers every target that was ever used here, typed ones included.
+void JobsPage::collectTargets()
+{
+    for (const BackupJob &job : m_jobs->jobs()) {
+        FolderList::add(m_targets, job.targetFolder);
+    }
+}
+
+void JobsPage::setUpTable()
+{
+    m_table->setColumns(JobModel::columnDeclarations());
+    m_table->bindModel(JobModel::Source, m_sources);
+    m_table->bindModel(JobModel::Target, m_targets);
+    m_table->setStretchSection(JobModel::Target);
+    m_table->setModel(m_jobs);
+    m_table->setEditTriggers(QAbstractItemView::SelectedClicked | QAbstractItemView::DoubleClicked
+                             | QAbstractItemView::EditKeyPressed
+                             | QAbstractItemView::AnyKeyPressed);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setAccessibleName(tr("Backups"));
+
+    const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    const QList<int> widths = {20, 28, 28, 14, 12, 10, 12}; // in digits; the target takes the rest
+    for (int column = 0; column < widths.size(); ++column) {
+        m_table->resizeSection(column, widths.at(column) * digit);
+    }
+    connect(m_table,
+            SIGNAL(buttonClicked(QWidget*,int,int,QStringList)),
+                   SLOT(actOnClick(QWidget*,int,int)));
+}
+
+void JobsPage::setUpLayout()
+{
+    QVBoxLayout *layout = new QVBoxLayout(this);
+    layout->addWidget(m_table, 1);
+    layout->addWidget(m_progress);
+}

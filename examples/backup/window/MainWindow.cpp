@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "MainWindow.h"
+
+#include "JobModel.h"
+#include "JobsPage.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QStatusBar>
+#include <QToolBar>
+
+MainWindow::MainWindow(const JobStore &store, QWidget *parent)
+    : QMainWindow(parent)
+    , m_store(store)
+    , m_jobsPage(new JobsPage(store.load()))
+{
+    setWindowTitle(tr("Backup"));
+    setCentralWidget(m_jobsPage);
+    setUpActions();
+    statusBar();
+    resize(960, 560);
+
+    m_saveSoon.setSingleShot(true);
+    connect(&m_saveSoon, &QTimer::timeout, this, &MainWindow::save);
+    connect(m_jobsPage, &JobsPage::changed, &m_saveSoon, QOverload<>::of(&QTimer::start));
+    connect(m_jobsPage, &JobsPage::message, statusBar(), [this](const QString &text) {
+        statusBar()->showMessage(text);
+    });
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    save();
+    BackupEngine *engine = m_jobsPage->engine();
+    if (engine->isRunning()) {
+        connect(engine, &BackupEngine::finished, this, &QWidget::close, Qt::QueuedConnection);
+        engine->cancel();
+        event->ignore();
+    }
+}
+
+void MainWindow::chooseSource()
+{
+    m_jobsPage->addSource(QFileDialog::getExistingDirectory(this, tr("Folder to back up")));
+}
+
+void MainWindow::save()
+{
+    m_saveSoon.stop();
+    if (!m_store.save(m_jobsPage->jobs()->jobs())) {
+        statusBar()->showMessage(tr("The list of backups could not be saved."));
+    }
+}
+
+void MainWindow::setUpActions()
+{
+    QToolBar *toolBar = addToolBar(tr("Backups"));
+    toolBar->setObjectName(QStringLiteral("backups"));
+    QAction *add = toolBar->addAction(tr("&New backup"), m_jobsPage, &JobsPage::addJob);
+    add->setShortcut(QKeySequence::New);
+    QAction *source
+        = toolBar->addAction(tr("Add &folder to choose from..."), this, &MainWindow::chooseSource);
+    source->setShortcut(QKeySequence::Open);
+}
