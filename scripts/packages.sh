@@ -1,0 +1,40 @@
+# SPDX-License-Identifier: LGPL-3.0-or-later
+# Sourced by the other scripts. need PACKAGE...: installs the Debian packages that are missing, and
+# says so. Where that cannot be done it names them and goes on: CMake will tell if one is needed.
+
+need() {
+    local missing=() package
+    if ! command -v dpkg-query > /dev/null; then
+        echo "This is not Debian. Needed, by their names there: $*"
+        return 0
+    fi
+    for package in "$@"; do
+        if [ "$(dpkg-query -W -f='${db:Status-Abbrev}' "$package" 2> /dev/null)" != "ii " ]; then
+            missing+=("$package")
+        fi
+    done
+    [ "${#missing[@]}" -gt 0 ] || return 0
+
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        as_root=(sudo)
+        if ! command -v sudo > /dev/null; then
+            echo "Missing, and no right to install them: ${missing[*]}"
+            return 0
+        fi
+    fi
+    echo "Installing ${missing[*]}"
+    if ! { "${as_root[@]}" apt-get -q update \
+        && "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+            apt-get -q -y --no-install-recommends install "${missing[@]}"; } > /tmp/tessaline-apt.$$ 2>&1; then
+        tail -n 5 /tmp/tessaline-apt.$$
+        echo "Could not install: ${missing[*]}"
+    fi
+    rm -f /tmp/tessaline-apt.$$
+}
+
+# What any build takes. The fonts: without one, texts are blank and no error tells.
+packages_build="cmake ninja-build g++ fonts-dejavu-core"
+packages_qt5="qtbase5-dev libqwt-qt5-dev"
+packages_qt6="qt6-base-dev libgl-dev"
+packages_checks="clang-format clang-tidy clazy libbenchmark-dev"
