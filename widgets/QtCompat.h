@@ -2,6 +2,9 @@
 #ifndef TESSALINE_QTCOMPAT_H
 #define TESSALINE_QTCOMPAT_H
 
+#include <QColor>
+#include <QDateTime>
+#include <QFontMetrics>
 #include <QHeaderView>
 #include <QMetaType>
 #include <QString>
@@ -88,6 +91,51 @@ inline QByteArray trSource(const QString &text)
 }
 
 #endif
+
+#if QT_VERSION < 0x050b00
+
+inline int charWidth(const QFontMetrics &metrics, QChar character)
+{
+    return metrics.width(character);
+}
+
+#else
+
+inline int charWidth(const QFontMetrics &metrics, QChar character)
+{
+    return metrics.horizontalAdvance(character);
+}
+
+#endif
+
+/// QDateTime::toTime_t and its like, which are gone in Qt 6: whole seconds since 1970, in UTC.
+inline qint64 toSecs(const QDateTime &time)
+{
+    return time.toMSecsSinceEpoch() / 1000;
+}
+
+inline QDateTime fromSecs(qint64 seconds)
+{
+    return QDateTime::fromMSecsSinceEpoch(seconds * 1000);
+}
+
+/// The seconds from one time to another, cut off towards zero. Qt 4's own function is a second off
+/// where a midnight lies between.
+inline qint64 secsTo(const QDateTime &from, const QDateTime &to)
+{
+    return (to.toMSecsSinceEpoch() - from.toMSecsSinceEpoch()) / 1000;
+}
+
+/// The colour of a name or of "#" and 3, 6, 9 or 12 digits. Eight digits, with an alpha channel
+/// since Qt 5.2, make an invalid colour, as they did before.
+inline QColor namedColor(const QString &name)
+{
+    QColor color;
+    if (!name.startsWith(QLatin1Char('#')) || name.size() != 9) {
+        color.setNamedColor(name);
+    }
+    return color;
+}
 
 /// QVariant::toString as Qt 4 has it: a double with 15 and a float with 6 significant digits, where
 /// newer versions write the shortest form ("1e+06" for a million).

@@ -15,7 +15,8 @@ class TestCase : public QObject
     Q_OBJECT
 
 protected:
-    void expectWarning(const QString &message);
+    /// Announces a message of any kind, word for word.
+    void expectMessage(const QString &message);
 
     /// For what Qt itself says, in some versions, when it is misused on purpose.
     void tolerateWarnings(const QString &prefix);

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#ifndef TESSALINE_QWTTESTCOMPAT_H
+#define TESSALINE_QWTTESTCOMPAT_H
+
+#include <qwt_plot.h>
+#include <qwt_plot_curve.h>
+#include <qwt_plot_grid.h>
+#include <qwt_scale_div.h>
+
+/// What the tests read off a plot that Qwt 5 and 6 offer differently.
+namespace compat {
+
+namespace detail {
+
+inline const QwtScaleDiv &scaleDiv(const QwtScaleDiv &division)
+{
+    return division;
+}
+
+inline const QwtScaleDiv &scaleDiv(const QwtScaleDiv *division)
+{
+    return *division;
+}
+
+template <class Curve>
+auto pointAt(const Curve &curve, int i, int) -> decltype(curve.sample(size_t(i)), QPointF())
+{
+    return curve.sample(i); // Qwt 6
+}
+
+template <class Curve> QPointF pointAt(const Curve &curve, int i, long)
+{
+    return QPointF(curve.x(i), curve.y(i)); // Qwt 5
+}
+
+template <class Grid> auto majorPen(const Grid &grid, int) -> decltype(grid.majorPen(), QPen())
+{
+    return grid.majorPen(); // Qwt 6
+}
+
+template <class Grid> QPen majorPen(const Grid &grid, long)
+{
+    return grid.majPen(); // Qwt 5
+}
+
+} // namespace detail
+
+inline const QwtScaleDiv &scaleDiv(const QwtPlot &plot, int axis)
+{
+    return detail::scaleDiv(plot.axisScaleDiv(axis));
+}
+
+inline QPointF pointAt(const QwtPlotCurve &curve, int i)
+{
+    return detail::pointAt(curve, i, 0);
+}
+
+inline QPen majorPen(const QwtPlotGrid &grid)
+{
+    return detail::majorPen(grid, 0);
+}
+
+} // namespace compat
+
+#endif

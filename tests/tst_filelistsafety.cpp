@@ -1,0 +1,336 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "FileListTableView.h"
+#include "PagedModel.h"
+#include "TestCase.h"
+#include "ViewHelpers.h"
+
+#include <QHeaderView>
+#include <QPointer>
+#include <QPushButton>
+#include <QStringListModel>
+#include <QThread>
+
+namespace {
+
+void goThroughEvents()
+{
+    QCoreApplication::processEvents();
+    compat::deliverDeferredDeletes();
+}
+
+/// What a user may do to any list at any time.
+void use(FileListTableView *view)
+{
+    view->resize(view->width() + 30, view->height());
+    goThroughEvents();
+    QTest::mouseClick(view->viewport(), Qt::LeftButton);
+    QTest::mouseClick(view->horizontalHeader()->viewport(), Qt::LeftButton);
+    compat::grab(view);
+    goThroughEvents();
+}
+
+/// Delivers a page, or another session, from a thread of its own.
+class Loader : public QThread
+{
+public:
+    Loader(PagedModel *pagedModel, bool changesSession)
+        : model(pagedModel)
+        , isSessionChange(changesSession)
+    {
+    }
+
+protected:
+    void run() override
+    {
+        if (isSessionChange) {
+            model->changeSession();
+        } else {
+            model->announce(7, false);
+        }
+    }
+
+private:
+    PagedModel *model;
+    bool isSessionChange;
+};
+
+QString labelOfButton(const FileListTableView &view)
+{
+    const QList<QPushButton *> buttons = view.viewport()->findChildren<QPushButton *>();
+    return buttons.isEmpty() ? QString("none") : buttons.last()->text();
+}
+
+} // namespace
+
+/// Models that break the contract, and calls at the wrong time: nothing crashes.
+class FileListSafetyTest : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isShownWithoutAModel();
+    void isCalledWithoutAModel();
+    void showsAModelOfAnotherKindWithoutPaging();
+    void survivesAModelThatDies();
+    void survivesAModelThatDiesWhileLoading();
+    void survivesAnAnswerWithoutAButton();
+    void survivesAnAnswerThatComesTwice();
+    void survivesARequestWithoutAButton();
+    void survivesAModelThatIsCleared();
+    void survivesAModelThatRemovesThePagingRow();
+    void survivesAModelWithoutColumns();
+    void survivesAModelReplacedWhileItsButtonIsClicked();
+    void takesAPageFromAnotherThread();
+    void takesASessionFromAnotherThread();
+    void ignoresRowsOfAChild();
+
+public Q_SLOTS:
+    void replaceModel();
+
+private:
+    QPointer<FileListTableView> actedOn;
+    QPointer<PagedModel> replacement;
+};
+
+void FileListSafetyTest::replaceModel()
+{
+    actedOn->setModel(replacement);
+}
+
+void FileListSafetyTest::isShownWithoutAModel()
+{
+    FileListTableView view;
+
+    showWindow(&view, 400, 300);
+    use(&view);
+
+    QVERIFY(!view.model());
+}
+
+void FileListSafetyTest::isCalledWithoutAModel()
+{
+    FileListTableView view;
+
+    view.setModel(nullptr);
+    view.StartLoadingData();
+    view.FinishLoadingData(1, true);
+    view.SessionChanged();
+    view.SortByColumn(3);
+    view.rowsInserted(QModelIndex(), 0, 0);
+    use(&view);
+
+    QCOMPARE(buttonCount(view), 0);
+}
+
+void FileListSafetyTest::showsAModelOfAnotherKindWithoutPaging()
+{
+    tolerateWarnings("Object::connect");
+    tolerateWarnings("QObject::connect");
+    QStringListModel model(QStringList() << "a"
+                                         << "b");
+    FileListTableView view;
+
+    view.setModel(&model);
+    showWindow(&view, 400, 300);
+    view.StartLoadingData();
+    view.FinishLoadingData(1, true);
+    view.SessionChanged();
+    model.insertRow(0);
+    use(&view);
+
+    QCOMPARE(model.rowCount(), 3);
+    QCOMPARE(buttonCount(view), 0);
+}
+
+void FileListSafetyTest::survivesAModelThatDies()
+{
+    PagedModel *model = new PagedModel;
+    FileListTableView view;
+    view.setModel(model);
+    showWindow(&view, 400, 300);
+
+    delete model;
+    view.resize(450, 300);
+    view.FinishLoadingData(1, true);
+    view.SessionChanged();
+    use(&view);
+
+    QVERIFY(!view.model());
+}
+
+void FileListSafetyTest::survivesAModelThatDiesWhileLoading()
+{
+    PagedModel *model = new PagedModel;
+    FileListTableView view;
+    view.setModel(model);
+    view.StartLoadingData();
+    delete model;
+    PagedModel second;
+
+    view.setModel(&second);
+    goThroughEvents();
+    view.StartLoadingData();
+
+    QCOMPARE(second.requests, 1);
+    QCOMPARE(labelOfButton(view), QString("loading..."));
+}
+
+void FileListSafetyTest::survivesAnAnswerWithoutAButton()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&model);
+    model.deliver(1, true);
+
+    model.deliver(1, false);
+    use(&view);
+
+    QCOMPARE(labelOfButton(view), QString("none"));
+}
+
+void FileListSafetyTest::survivesAnAnswerThatComesTwice()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&model);
+    view.StartLoadingData();
+
+    model.deliver(2, true);
+    model.announce(2, true);
+    use(&view);
+
+    QCOMPARE(model.rowCount(), 2); // the second took no row with it
+}
+
+void FileListSafetyTest::survivesARequestWithoutAButton()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&model);
+    model.deliver(1, true);
+
+    view.StartLoadingData();
+
+    QCOMPARE(model.requests, 1);
+}
+
+void FileListSafetyTest::survivesAModelThatIsCleared()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&model);
+    showWindow(&view, 400, 300);
+    view.StartLoadingData();
+    model.deliver(3, false);
+
+    model.clear();
+    model.setColumnCount(5);
+    model.appendRow(new QStandardItem("new"));
+    model.announce(1, false);
+    use(&view);
+
+    QCOMPARE(buttonCount(view), 0); // the paging row went with the rest
+    model.changeSession();
+    QCOMPARE(labelOfButton(view), QString("loading..."));
+}
+
+void FileListSafetyTest::survivesAModelThatRemovesThePagingRow()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&model);
+    showWindow(&view, 400, 300);
+    view.StartLoadingData();
+
+    model.removeRow(0);
+    model.announce(0, true);
+    use(&view);
+
+    QCOMPARE(model.rowCount(), 0);
+    model.changeSession();
+    QCOMPARE(labelOfButton(view), QString("loading..."));
+}
+
+void FileListSafetyTest::survivesAModelWithoutColumns()
+{
+    PagedModel model;
+    model.setColumnCount(0);
+    FileListTableView view;
+    view.setModel(&model);
+    showWindow(&view, 400, 300);
+
+    use(&view);
+    model.changeSession();
+    model.announce(0, true);
+
+    QCOMPARE(buttonCount(view), 0);
+}
+
+void FileListSafetyTest::survivesAModelReplacedWhileItsButtonIsClicked()
+{
+    PagedModel model;
+    PagedModel second;
+    FileListTableView view;
+    view.setModel(&model);
+    showWindow(&view, 400, 300);
+    actedOn = &view;
+    replacement = &second;
+    connect(&view, SIGNAL(requestItems()), SLOT(replaceModel()));
+
+    QTest::mouseClick(view.indexWidget(model.index(0, 0)), Qt::LeftButton);
+    disconnect(&view, SIGNAL(requestItems()), this, SLOT(replaceModel()));
+    use(&view);
+
+    QCOMPARE(buttonCount(view), 1);
+    QVERIFY(view.indexWidget(second.index(0, 0)));
+}
+
+void FileListSafetyTest::takesAPageFromAnotherThread()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&model);
+    view.StartLoadingData();
+    Loader loader(&model, false);
+
+    loader.start();
+    QVERIFY(loader.wait());
+
+    QCOMPARE(labelOfButton(view), QString("loading..."));
+    QTRY_COMPARE(labelOfButton(view), QString("Next >>"));
+}
+
+void FileListSafetyTest::takesASessionFromAnotherThread()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&model);
+    Loader loader(&model, true);
+
+    loader.start();
+    QVERIFY(loader.wait());
+
+    QTRY_COMPARE(model.requests, 1);
+    QCOMPARE(labelOfButton(view), QString("loading..."));
+}
+
+void FileListSafetyTest::ignoresRowsOfAChild()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&model);
+    showWindow(&view, 400, 300);
+    view.StartLoadingData();
+    model.deliver(1, false);
+    QWidget *button = view.indexWidget(model.index(1, 0));
+
+    model.item(0, 0)->appendRow(new QStandardItem("child"));
+    model.item(0, 0)->appendRow(new QStandardItem("child"));
+    use(&view);
+
+    QCOMPARE(view.indexWidget(model.index(1, 0)), button);
+    QCOMPARE(buttonCount(view), 1);
+}
+
+TESSALINE_TEST_MAIN(FileListSafetyTest)
+#include "tst_filelistsafety.moc"

@@ -1,0 +1,503 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "PlotClock.h"
+#include "QtCompat.h"
+#include "QwtTestCompat.h"
+#include "TestCase.h"
+#include "TimeScaleDraw.h"
+#include "UpdatablePlot.h"
+
+#include <qwt_plot_layout.h>
+#include <qwt_scale_widget.h>
+#include <qwt_text.h>
+
+#include <QDateTime>
+
+namespace {
+
+int pretendedSeconds = 0;
+
+/// The clock of these tests: it stands still unless a test moves it.
+QDateTime pretendedTime()
+{
+    return PlotClock::startTime.addSecs(pretendedSeconds);
+}
+
+template <class Item> const Item *findItem(const QwtPlot &plot, int type)
+{
+    const QwtPlotItemList items = plot.itemList();
+    for (const QwtPlotItem *item : items) {
+        if (item->rtti() == type) {
+            return static_cast<const Item *>(item);
+        }
+    }
+    return nullptr;
+}
+
+const QwtPlotCurve &curveOf(const QwtPlot &plot)
+{
+    return *findItem<QwtPlotCurve>(plot, QwtPlotItem::Rtti_PlotCurve);
+}
+
+/// The last points, such as "0:5 1:7".
+QString points(const QwtPlot &plot, int most = 5)
+{
+    const QwtPlotCurve &curve = curveOf(plot);
+    const int count = int(curve.dataSize());
+    QStringList list;
+    for (int i = qMax(0, count - most); i < count; ++i) {
+        const QPointF point = compat::pointAt(curve, i);
+        list.append(QString("%1:%2").arg(point.x()).arg(point.y(), 0, 'g', 19));
+    }
+    return list.join(" ");
+}
+
+/// An axis's ends, such as "-300..1500".
+QString ends(const QwtPlot &plot, int axis)
+{
+    const QwtScaleDiv &division = compat::scaleDiv(plot, axis);
+    return QString("%1..%2")
+        .arg(division.lowerBound(), 0, 'g', 19)
+        .arg(division.upperBound(), 0, 'g', 19);
+}
+
+double majorStep(const QwtPlot &plot, int axis)
+{
+    const QList<double> ticks = compat::scaleDiv(plot, axis).ticks(QwtScaleDiv::MajorTick);
+    return ticks.size() < 2 ? 0.0 : ticks.at(1) - ticks.at(0);
+}
+
+void setSecond(int second)
+{
+    pretendedSeconds = second;
+}
+
+} // namespace
+
+class UpdatablePlotTest : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void declaresOneSlotAndFourProperties();
+    void declaresItsProperties_data();
+    void declaresItsProperties();
+    void startsWithTheHalfHourAfterItsStart();
+    void startsWithoutTitlesAndLegend();
+    void drawsHorizontalGridLinesOnly();
+    void labelsItsAxesInSmallPrint();
+    void leavesTheCurveAsQwtMakesIt();
+    void readsDefaultColors();
+    void takesColors_data();
+    void takesColors();
+    void fillsTheCurveTranslucently();
+    void takesTitlesAsPlainText();
+    void addsASampleAtTheCurrentSecond();
+    void keepsOneSampleASecond();
+    void movesTheTimeAxisWithTheClock();
+    void fitsTheSizeAxisToTheLargestSample_data();
+    void fitsTheSizeAxisToTheLargestSample();
+    void keepsHalfAnHourAndASecond();
+    void rejectsAValueAndChangesNothing();
+    void takesSamplesByName();
+    void keepsSamplesAheadOfAClockSetBack();
+    void dropsAllWhenTheClockJumpsAhead();
+    void takesNegativeValues();
+    void takesTheEndsOf64Bits();
+    void diesBeforeAndAfterItsFirstSample();
+    void fillsTheAreaOnlyWhenTheCurveHasAColor();
+};
+
+void UpdatablePlotTest::initTestCase()
+{
+    PlotClock::currentDateTime = pretendedTime;
+}
+
+void UpdatablePlotTest::declaresOneSlotAndFourProperties()
+{
+    const QMetaObject &metaObject = UpdatablePlot::staticMetaObject;
+
+    QCOMPARE(QString(metaObject.className()), QString("UpdatablePlot"));
+    QCOMPARE(QString(metaObject.superClass()->className()), QString("QwtPlot"));
+    QCOMPARE(metaObject.propertyCount() - metaObject.propertyOffset(), 4);
+    QCOMPARE(metaObject.methodCount() - metaObject.methodOffset(), 1);
+    const QMetaMethod method = metaObject.method(metaObject.methodOffset());
+    QCOMPARE(QString(compat::methodSignature(method)), QString("updateData(QVariant)"));
+    QCOMPARE(int(method.methodType()), int(QMetaMethod::Slot));
+    QCOMPARE(int(method.access()), int(QMetaMethod::Public));
+    QCOMPARE(method.parameterNames(), QList<QByteArray>() << "val");
+}
+
+void UpdatablePlotTest::declaresItsProperties_data()
+{
+    QTest::addColumn<int>("place");
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("background") << 0 << "bgColor";
+    QTest::newRow("curve") << 1 << "curveColor";
+    QTest::newRow("x title") << 2 << "xTitle";
+    QTest::newRow("y title") << 3 << "yTitle";
+}
+
+void UpdatablePlotTest::declaresItsProperties()
+{
+    QFETCH(int, place);
+    const QMetaObject &metaObject = UpdatablePlot::staticMetaObject;
+    const UpdatablePlot plot(nullptr);
+
+    const QMetaProperty property = metaObject.property(metaObject.propertyOffset() + place);
+
+    QTEST(QString(property.name()), "name");
+    QCOMPARE(QString(property.typeName()), QString("QString"));
+    QVERIFY(property.isReadable() && property.isWritable());
+    QCOMPARE(compat::flags(property, &plot), QList<bool>() << true << true << true);
+    QVERIFY(!property.hasNotifySignal());
+    QVERIFY(!property.isResettable());
+}
+
+void UpdatablePlotTest::startsWithTheHalfHourAfterItsStart()
+{
+    UpdatablePlot plot(nullptr);
+    plot.replot();
+
+    const QwtScaleDiv &time = compat::scaleDiv(plot, QwtPlot::xBottom);
+    const double lower = time.lowerBound();
+    QVERIFY(lower <= 0 && lower >= -299);
+    QVERIFY(qAbs(time.upperBound() - lower - 1800) <= 1); // a fraction of the start may be cut off
+    QCOMPARE(majorStep(plot, QwtPlot::xBottom), 300.0);
+    QCOMPARE(ends(plot, QwtPlot::yLeft), QString("0..1024"));
+    const qint64 boundary = PlotClock::startTime.toMSecsSinceEpoch() / 300000 * 300000;
+    QCOMPARE(plot.axisScaleDraw(QwtPlot::xBottom)->label(0).text(),
+             QDateTime::fromMSecsSinceEpoch(boundary).time().toString("hh:mm"));
+    QCOMPARE(plot.axisScaleDraw(QwtPlot::yLeft)->label(1536).text(), QString("1.50 KB"));
+}
+
+void UpdatablePlotTest::startsWithoutTitlesAndLegend()
+{
+    const UpdatablePlot plot(nullptr);
+
+    QVERIFY(plot.title().isEmpty());
+    QVERIFY(!plot.legend());
+    QVERIFY(!plot.autoReplot());
+    QVERIFY(plot.axisTitle(QwtPlot::xBottom).isEmpty());
+    QVERIFY(plot.axisTitle(QwtPlot::yLeft).isEmpty());
+    QVERIFY(!plot.axisEnabled(QwtPlot::xTop));
+    QVERIFY(!plot.axisEnabled(QwtPlot::yRight));
+    QVERIFY(plot.plotLayout()->alignCanvasToScale(QwtPlot::xBottom));
+    QCOMPARE(plot.itemList().size(), 2);
+}
+
+void UpdatablePlotTest::drawsHorizontalGridLinesOnly()
+{
+    const UpdatablePlot plot(nullptr);
+
+    const QwtPlotGrid *grid = findItem<QwtPlotGrid>(plot, QwtPlotItem::Rtti_PlotGrid);
+
+    QVERIFY(grid);
+    QVERIFY(!grid->xEnabled());
+    QVERIFY(grid->yEnabled());
+    QVERIFY(!grid->xMinEnabled() && !grid->yMinEnabled());
+    const QPen pen = compat::majorPen(*grid);
+    QCOMPARE(pen.color(), QColor(56, 56, 56, 150));
+    QCOMPARE(pen.style(), Qt::SolidLine);
+    QCOMPARE(pen.width(), 0);
+    QVERIFY(pen.isCosmetic());
+}
+
+void UpdatablePlotTest::labelsItsAxesInSmallPrint()
+{
+    UpdatablePlot plot(nullptr);
+
+    const QList<int> axes = QList<int>() << QwtPlot::xBottom << QwtPlot::yLeft;
+    for (int axis : axes) {
+        const QFont font = plot.axisWidget(axis)->font();
+        QCOMPARE(font.family(), QString("Ms Shell Dlg 2"));
+        QCOMPARE(font.pointSize(), 4);
+        QVERIFY(!font.italic() && !font.bold());
+    }
+    int start = -1;
+    int end = -1;
+    plot.axisWidget(QwtPlot::xBottom)->getMinBorderDist(start, end);
+    const QFontMetrics metrics(plot.axisWidget(QwtPlot::xBottom)->font());
+    QCOMPARE(start, 0);
+    QCOMPARE(end, 8 * compat::charWidth(metrics, QLatin1Char('8')));
+}
+
+void UpdatablePlotTest::leavesTheCurveAsQwtMakesIt()
+{
+    const UpdatablePlot plot(nullptr);
+    const QwtPlotCurve plain;
+
+    const QwtPlotCurve &curve = curveOf(plot);
+
+    QCOMPARE(curve.brush().style(), Qt::NoBrush);
+    QCOMPARE(curve.pen(), plain.pen());
+    QCOMPARE(int(curve.style()), int(plain.style()));
+    QVERIFY(curve.title().isEmpty());
+    QCOMPARE(int(curve.dataSize()), 0);
+}
+
+void UpdatablePlotTest::readsDefaultColors()
+{
+    const UpdatablePlot plot(nullptr);
+
+    QCOMPARE(plot.bgColor(), QString("#ffffff"));
+    QCOMPARE(plot.curveColor(), QString("#000000"));
+    QCOMPARE(plot.xTitle(), QString());
+    QCOMPARE(plot.yTitle(), QString());
+}
+
+void UpdatablePlotTest::takesColors_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("color");
+
+    QTest::newRow("name") << "white"
+                          << "#ffffff";
+    QTest::newRow("name in capitals") << "SteelBlue"
+                                      << "#4682b4";
+    QTest::newRow("3 digits") << "#f80"
+                              << "#ff8800";
+    QTest::newRow("6 digits") << "#Ab12eF"
+                              << "#ab12ef";
+    QTest::newRow("9 digits") << "#fff888000"
+                              << "#ff8800";
+    QTest::newRow("12 digits") << "#ffff88880000"
+                               << "#ff8800";
+    QTest::newRow("8 digits") << "#80ff0000"
+                              << "#000000";
+    QTest::newRow("unknown") << "no colour"
+                             << "#000000";
+    QTest::newRow("empty") << ""
+                           << "#000000";
+}
+
+void UpdatablePlotTest::takesColors()
+{
+    QFETCH(QString, text);
+    tolerateWarnings("QColor::setNamedColor"); // says Qt, in some versions
+    UpdatablePlot plot(nullptr);
+
+    plot.setProperty("bgColor", text);
+    plot.setProperty("curveColor", text);
+
+    QTEST(plot.property("bgColor").toString(), "color");
+    QTEST(plot.property("curveColor").toString(), "color");
+}
+
+void UpdatablePlotTest::fillsTheCurveTranslucently()
+{
+    UpdatablePlot plot(nullptr);
+
+    plot.setCurveColor("#4682b4");
+
+    const QwtPlotCurve &curve = curveOf(plot);
+    const QColor translucent(0x46, 0x82, 0xb4, 150);
+    QCOMPARE(curve.brush(), QBrush(translucent, Qt::SolidPattern));
+    QCOMPARE(curve.pen(),
+             QPen(QBrush(translucent), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+}
+
+void UpdatablePlotTest::takesTitlesAsPlainText()
+{
+    UpdatablePlot plot(nullptr);
+
+    plot.setProperty("xTitle", "<b>Time</b>");
+    plot.setProperty("yTitle", "Bytes");
+
+    QCOMPARE(plot.xTitle(), QString("<b>Time</b>"));
+    QCOMPARE(plot.yTitle(), QString("Bytes"));
+    QCOMPARE(plot.axisTitle(QwtPlot::xBottom), QwtText("<b>Time</b>", QwtText::PlainText));
+    // Plain text is as high as its letters; rich text would take a document's margins.
+    QCOMPARE(plot.axisTitle(QwtPlot::xBottom).textSize(QFont()),
+             QwtText("<b>Time</b>", QwtText::PlainText).textSize(QFont()));
+}
+
+void UpdatablePlotTest::addsASampleAtTheCurrentSecond()
+{
+    UpdatablePlot plot(nullptr);
+    setSecond(42);
+
+    plot.updateData(2048);
+
+    QCOMPARE(points(plot), QString("42:2048"));
+}
+
+void UpdatablePlotTest::keepsOneSampleASecond()
+{
+    UpdatablePlot plot(nullptr);
+    setSecond(7);
+    plot.updateData(1);
+    plot.updateData(2);
+    setSecond(8);
+
+    plot.updateData(3);
+
+    QCOMPARE(points(plot), QString("7:2 8:3"));
+}
+
+void UpdatablePlotTest::movesTheTimeAxisWithTheClock()
+{
+    UpdatablePlot plot(nullptr);
+    setSecond(3600);
+
+    plot.updateData(1);
+
+    QCOMPARE(ends(plot, QwtPlot::xBottom), QString("1800..3598"));
+    QCOMPARE(majorStep(plot, QwtPlot::xBottom), 300.0);
+}
+
+void UpdatablePlotTest::fitsTheSizeAxisToTheLargestSample_data()
+{
+    QTest::addColumn<qint64>("sample");
+    QTest::addColumn<QString>("axis");
+    QTest::addColumn<double>("step");
+
+    QTest::newRow("small") << qint64(100) << "0..1024" << 200.0; // as Qwt chooses
+    QTest::newRow("10000") << qint64(10000) << "0..10000" << 1024.0;
+    QTest::newRow("100 MB") << qint64(104857600) << "0..104857600" << 20971520.0;
+}
+
+void UpdatablePlotTest::fitsTheSizeAxisToTheLargestSample()
+{
+    QFETCH(qint64, sample);
+    UpdatablePlot plot(nullptr);
+    setSecond(1);
+    plot.updateData(1);
+    setSecond(2);
+
+    plot.updateData(sample);
+
+    QTEST(ends(plot, QwtPlot::yLeft), "axis");
+    QTEST(majorStep(plot, QwtPlot::yLeft), "step");
+}
+
+void UpdatablePlotTest::keepsHalfAnHourAndASecond()
+{
+    UpdatablePlot plot(nullptr);
+
+    for (int second = 0; second < 31 * 60; ++second) {
+        setSecond(second);
+        plot.updateData(second);
+    }
+
+    QCOMPARE(int(curveOf(plot).dataSize()), 1802);
+    QCOMPARE(compat::pointAt(curveOf(plot), 0), QPointF(58, 58)); // 1859 - 1801
+    QCOMPARE(points(plot, 1), QString("1859:1859"));
+}
+
+void UpdatablePlotTest::rejectsAValueAndChangesNothing()
+{
+    UpdatablePlot plot(nullptr);
+    setSecond(10);
+    plot.updateData(5000);
+    const QString time = ends(plot, QwtPlot::xBottom);
+    setSecond(20);
+    expectMessage("Invalid value.");
+
+    plot.updateData(QString("many"));
+
+    QCOMPARE(points(plot), QString("10:5000"));
+    QCOMPARE(ends(plot, QwtPlot::xBottom), time);
+    QCOMPARE(ends(plot, QwtPlot::yLeft), QString("0..5000"));
+}
+
+void UpdatablePlotTest::takesSamplesByName()
+{
+    UpdatablePlot plot(nullptr);
+    setSecond(3);
+
+    QVERIFY(QMetaObject::invokeMethod(&plot, "updateData", Q_ARG(QVariant, QString("77"))));
+
+    QCOMPARE(points(plot), QString("3:77"));
+}
+
+void UpdatablePlotTest::keepsSamplesAheadOfAClockSetBack()
+{
+    UpdatablePlot plot(nullptr);
+    setSecond(5000);
+    plot.updateData(9000);
+    setSecond(4000);
+
+    plot.updateData(1);
+
+    QCOMPARE(points(plot), QString("4000:1 5000:9000"));
+    QCOMPARE(ends(plot, QwtPlot::xBottom), QString("2200..3998"));
+    QCOMPARE(ends(plot, QwtPlot::yLeft), QString("0..9000")); // it still counts
+    setSecond(6802);
+    plot.updateData(1);
+    QCOMPARE(points(plot), QString("6802:1"));
+}
+
+void UpdatablePlotTest::dropsAllWhenTheClockJumpsAhead()
+{
+    UpdatablePlot plot(nullptr);
+    setSecond(100);
+    plot.updateData(9000);
+    setSecond(100 + 1802);
+
+    plot.updateData(1);
+
+    QCOMPARE(points(plot), QString("1902:1"));
+    QCOMPARE(ends(plot, QwtPlot::yLeft), QString("0..1024"));
+}
+
+void UpdatablePlotTest::takesNegativeValues()
+{
+    UpdatablePlot plot(nullptr);
+    setSecond(1);
+
+    plot.updateData(-5000);
+
+    QCOMPARE(points(plot), QString("1:-5000"));
+    QCOMPARE(ends(plot, QwtPlot::yLeft), QString("0..1024"));
+}
+
+void UpdatablePlotTest::takesTheEndsOf64Bits()
+{
+    UpdatablePlot plot(nullptr);
+    setSecond(1);
+    plot.updateData(Q_INT64_C(9223372036854775807));
+    setSecond(2);
+
+    plot.updateData(QString("-9223372036854775808"));
+
+    QCOMPARE(points(plot), QString("1:9223372036854775808 2:-9223372036854775808"));
+    QCOMPARE(ends(plot, QwtPlot::yLeft), QString("0..9223372036854775808"));
+}
+
+void UpdatablePlotTest::diesBeforeAndAfterItsFirstSample()
+{
+    QWidget parent;
+    new UpdatablePlot(&parent);
+    UpdatablePlot *second = new UpdatablePlot(&parent);
+
+    second->updateData(1);
+
+    QCOMPARE(parent.children().size(), 2); // both go with the parent
+}
+
+void UpdatablePlotTest::fillsTheAreaOnlyWhenTheCurveHasAColor()
+{
+    UpdatablePlot plot(nullptr);
+    plot.resize(400, 300);
+    for (int second = 1000; second <= 2000; second += 10) {
+        setSecond(second);
+        plot.updateData(1000);
+    }
+    plot.show();
+    compat::waitUntilShown(&plot);
+    const QRect canvas = plot.canvas()->geometry();
+    const QPoint below(canvas.left() + canvas.width() * 9 / 10, canvas.bottom() - 8);
+    const QColor before(compat::grab(&plot).toImage().pixel(below));
+
+    plot.setCurveColor("red");
+
+    const QColor after(compat::grab(&plot).toImage().pixel(below));
+    QCOMPARE(before, QColor(Qt::white));
+    QCOMPARE(after.red(), 255);
+    QVERIFY(after.green() > 80 && after.green() < 130); // red at 150 of 255 over white
+}
+
+TESSALINE_TEST_MAIN(UpdatablePlotTest)
+#include "tst_updatableplot.moc"

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "UpdatablePlot.h"
+
+#include "ByteSizeScaleDraw.h"
+#include "PlotClock.h"
+#include "PlotSamples.h"
+#include "QtCompat.h"
+#include "QwtCompat.h"
+#include "TimeScaleDraw.h"
+
+#include <qwt_plot_grid.h>
+#include <qwt_plot_layout.h>
+#include <qwt_scale_widget.h>
+#include <qwt_text.h>
+
+#include <QVariant>
+
+namespace {
+
+const int translucent = 150; // alpha, of 255
+
+// Very small on purpose: the chart is made for a corner of a window.
+QFont smallPrint()
+{
+    return QFont(QLatin1String("Ms Shell Dlg 2"), 4);
+}
+
+QPolygonF pointsOf(const QMap<int, qint64> &samples)
+{
+    QPolygonF points;
+    points.reserve(samples.size());
+    for (auto sample = samples.begin(); sample != samples.end(); ++sample) {
+        points.append(QPointF(sample.key(), static_cast<double>(sample.value())));
+    }
+    return points;
+}
+
+} // namespace
+
+UpdatablePlot::UpdatablePlot(QWidget *parent)
+    : QwtPlot(parent)
+    , sizeScaleDraw(nullptr)
+    , timeScaleDraw(nullptr)
+{
+    setAutoReplot(false);
+    plotLayout()->setAlignCanvasToScales(true);
+    setCanvasBackground(QColor(Qt::white));
+    setUpTimeAxis();
+    setUpSizeAxis();
+    setUpGrid();
+    curve.attach(this);
+}
+
+UpdatablePlot::~UpdatablePlot() = default;
+
+QString UpdatablePlot::bgColor() const
+{
+    return compat::canvasColor(*this).name();
+}
+
+void UpdatablePlot::setBgColor(const QString &text)
+{
+    setCanvasBackground(compat::namedColor(text));
+}
+
+QString UpdatablePlot::curveColor() const
+{
+    return curve.brush().color().name();
+}
+
+void UpdatablePlot::setCurveColor(const QString &text)
+{
+    QColor color = compat::namedColor(text);
+    color.setAlpha(translucent);
+    const QBrush brush(color, Qt::SolidPattern);
+    curve.setBrush(brush);
+    curve.setPen(QPen(brush, 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    replot();
+}
+
+QString UpdatablePlot::xTitle() const
+{
+    return axisTitle(QwtPlot::xBottom).text();
+}
+
+void UpdatablePlot::setXTitle(const QString &text)
+{
+    setAxisTitle(QwtPlot::xBottom, QwtText(text, QwtText::PlainText));
+}
+
+QString UpdatablePlot::yTitle() const
+{
+    return axisTitle(QwtPlot::yLeft).text();
+}
+
+void UpdatablePlot::setYTitle(const QString &text)
+{
+    setAxisTitle(QwtPlot::yLeft, QwtText(text, QwtText::PlainText));
+}
+
+void UpdatablePlot::updateData(const QVariant &val)
+{
+    qint64 sample = 0;
+    if (!PlotSamples::parse(val, &sample)) {
+        qDebug("Invalid value.");
+        return;
+    }
+    const int now = PlotSamples::secondsSince(PlotClock::startTime, PlotClock::currentDateTime());
+    samples.insert(now, sample);
+    PlotSamples::prune(&samples, now);
+
+    // The axis ends short of the newest sample, on purpose: the curve runs out of the picture.
+    setAxisScale(QwtPlot::xBottom, now - PlotSamples::span, now - 2, PlotSamples::timeStep);
+    const qint64 maximum = PlotSamples::maximum(samples);
+    setAxisScale(QwtPlot::yLeft, 0.0, static_cast<double>(maximum),
+                 static_cast<double>(PlotSamples::sizeStep(maximum)));
+    compat::setPoints(&curve, pointsOf(samples));
+    replot();
+}
+
+void UpdatablePlot::setUpTimeAxis()
+{
+    const PlotSamples::InitialAxis axis(PlotClock::startTime);
+    timeScaleDraw = new TimeScaleDraw(axis.base);
+    setAxisScaleDraw(QwtPlot::xBottom, timeScaleDraw);
+    setAxisScale(QwtPlot::xBottom, axis.lower, axis.upper, PlotSamples::timeStep);
+    QwtScaleWidget *widget = axisWidget(QwtPlot::xBottom);
+    widget->setFont(smallPrint());
+    const int digit = compat::charWidth(QFontMetrics(widget->font()), QLatin1Char('8'));
+    widget->setMinBorderDist(0, 8 * digit);
+}
+
+void UpdatablePlot::setUpSizeAxis()
+{
+    sizeScaleDraw = new ByteSizeScaleDraw;
+    setAxisScaleDraw(QwtPlot::yLeft, sizeScaleDraw);
+    setAxisScale(QwtPlot::yLeft, 0.0, 1024.0, 0.0);
+    axisWidget(QwtPlot::yLeft)->setFont(smallPrint());
+}
+
+void UpdatablePlot::setUpGrid()
+{
+    QwtPlotGrid *grid = new QwtPlotGrid; // the plot deletes it
+    grid->enableX(false);
+    // A pen of a brush and width 0: a pen of a colour is no longer cosmetic since Qt 5.
+    grid->setPen(QPen(QBrush(QColor(56, 56, 56, translucent)), 0));
+    grid->attach(this);
+}
