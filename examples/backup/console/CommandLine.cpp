@@ -16,13 +16,13 @@ namespace {
 
 const int refusedStatus = 2;
 
-const QString sourceOption = QStringLiteral("source");
-const QString targetOption = QStringLiteral("target");
-const QString verifyOption = QStringLiteral("verify");
-const QString runOption = QStringLiteral("run");
-const QString passphraseOption = QStringLiteral("passphrase-from-stdin");
-const QString picturesOption = QStringLiteral("pictures");
-const QString helpOption = QStringLiteral("help");
+const QLatin1String sourceOption("source");
+const QLatin1String targetOption("target");
+const QLatin1String verifyOption("verify");
+const QLatin1String runOption("run");
+const QLatin1String passphraseOption("passphrase-from-stdin");
+const QLatin1String picturesOption("pictures");
+const QLatin1String helpOption("help");
 
 QString translated(const char *text)
 {
@@ -49,7 +49,7 @@ void addOptions(QCommandLineParser *parser)
 QString errorOf(const QCommandLineParser &parser, const CommandLine &commandLine)
 {
     if (!parser.positionalArguments().isEmpty()) {
-        return translated("Unexpected argument: %1").arg(parser.positionalArguments().first());
+        return translated("Unexpected argument: %1").arg(parser.positionalArguments().constFirst());
     }
     if (commandLine.wantsRun && commandLine.sourceFolder.isEmpty()) {
         return translated("--run needs --source.");

@@ -23,7 +23,7 @@ QByteArray joined(const QByteArray &folder, const QByteArray &name)
 // Also for a path that does not exist yet: then its nearest existing ancestor counts.
 QByteArray canonicalOrFuturePath(const QString &path)
 {
-    const QByteArray existing = PosixFile::canonicalPath(QFile::encodeName(path));
+    QByteArray existing = PosixFile::canonicalPath(QFile::encodeName(path));
     if (!existing.isEmpty()) {
         return existing;
     }

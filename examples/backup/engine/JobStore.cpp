@@ -43,7 +43,8 @@ bool isEmpty(const BackupJob &job)
 QStringList numberedGroups(const QSettings &settings)
 {
     QStringList groups;
-    for (const QString &group : settings.childGroups()) {
+    const QStringList all = settings.childGroups();
+    for (const QString &group : all) {
         bool isNumber = false;
         group.toUInt(&isNumber);
         if (isNumber) {
@@ -74,7 +75,8 @@ QList<BackupJob> JobStore::load() const
     QSettings settings(m_filePath, QSettings::IniFormat);
     settings.beginGroup(jobsGroup);
     QList<BackupJob> jobs;
-    for (const QString &group : numberedGroups(settings)) {
+    const QStringList groups = numberedGroups(settings);
+    for (const QString &group : groups) {
         settings.beginGroup(group);
         const BackupJob job = readJob(settings);
         settings.endGroup();

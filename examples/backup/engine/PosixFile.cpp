@@ -133,7 +133,7 @@ int PosixFile::setTime(const QByteArray &path, const FileState &state)
 QByteArray PosixFile::canonicalPath(const QByteArray &path)
 {
     char *resolved = ::realpath(path.constData(), nullptr);
-    const QByteArray result(resolved);
+    QByteArray result(resolved);
     std::free(resolved);
     return result;
 }

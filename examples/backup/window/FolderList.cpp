@@ -15,7 +15,8 @@ bool isPseudo(const QStorageInfo &volume)
 QStringList mountedVolumes()
 {
     QStringList volumes;
-    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
+    const QList<QStorageInfo> mounted = QStorageInfo::mountedVolumes();
+    for (const QStorageInfo &volume : mounted) {
         if (!isPseudo(volume) && QFileInfo(volume.rootPath()).isDir()) {
             volumes.append(volume.rootPath());
         }

@@ -83,7 +83,8 @@ void JobsPage::actOnClick(QWidget *, int row, int column)
 // The target column offers every target that was ever used here, typed ones included.
 void JobsPage::collectTargets()
 {
-    for (const BackupJob &job : m_jobs->jobs()) {
+    const QList<BackupJob> jobs = m_jobs->jobs();
+    for (const BackupJob &job : jobs) {
         FolderList::add(m_targets, job.targetFolder);
     }
 }
