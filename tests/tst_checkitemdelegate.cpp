@@ -89,6 +89,7 @@ private Q_SLOTS:
     void paintsWhatTheStyleDraws();
     void asksTheStyleForAFlatEnabledCheckBox();
     void paintsTheSameWhateverTheViewLooksLike();
+    void paintsTheSameInADarkApplication();
     void paintsTheWholeCellOfAView();
     void translatesItsLabelWheneverItIsShown();
     void showsALabelInLatin1_data();
@@ -239,6 +240,20 @@ void CheckItemDelegateTest::paintsTheSameWhateverTheViewLooksLike()
     const QImage drawn = drawnByDelegate(delegate, option, model.index(0, 0));
 
     QCOMPARE(drawn, drawnByStyle("Verify", true));
+}
+
+void CheckItemDelegateTest::paintsTheSameInADarkApplication()
+{
+    QStandardItemModel model(1, 1);
+    const CheckItemDelegate delegate("Verify");
+    const QImage light = drawnByDelegate(delegate, QStyleOptionViewItem(), model.index(0, 0));
+    const QPalette previous = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(50, 50, 50)));
+
+    const QImage drawn = drawnByDelegate(delegate, QStyleOptionViewItem(), model.index(0, 0));
+
+    QApplication::setPalette(previous);
+    QCOMPARE(drawn, light);
 }
 
 void CheckItemDelegateTest::paintsTheWholeCellOfAView()

@@ -25,20 +25,21 @@ CheckItemDelegate::CheckItemDelegate(const QString &labelText, QObject *parent)
 }
 
 // Only the cell's rectangle comes from the view: a check cell is always drawn enabled, in the
-// style's own colours, and never highlighted, whatever the view's palette and selection are.
+// style's own colours, and never highlighted, whatever the view's palette and selection are. The
+// label is in these colours too: in a dark application it would be white on light grey.
 void CheckItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const
 {
+    QStyle *style = QApplication::style();
     QStyleOptionButton button;
+    button.palette = style->standardPalette();
     button.rect = option.rect;
     button.text = label();
     button.features = QStyleOptionButton::Flat;
     button.state = QStyle::State_Enabled
         | (isChecked(index.data(Qt::EditRole)) ? QStyle::State_On : QStyle::State_Off);
 
-    QStyle *style = QApplication::style();
-    painter->fillRect(option.rect,
-                      style->standardPalette().brush(QPalette::Current, QPalette::Window));
+    painter->fillRect(option.rect, button.palette.brush(QPalette::Current, QPalette::Window));
     style->drawControl(QStyle::CE_CheckBox, &button, painter);
 }
 
