@@ -10,8 +10,9 @@
 namespace {
 
 const qint64 sliceMilliseconds = 12;
+const qint64 longestPause = 250; // under a bandwidth limit; the window wants to see signs of life
 
-}
+} // namespace
 
 BackupEngine::BackupEngine(QObject *parent)
     : QObject(parent)
@@ -21,6 +22,7 @@ BackupEngine::BackupEngine(QObject *parent)
     qRegisterMetaType<BackupSummary>();
     qRegisterMetaType<FileResult>();
     m_timer.setSingleShot(true);
+    m_clock.start();
     connect(&m_timer, &QTimer::timeout, this, &BackupEngine::runSlice);
 }
 
@@ -57,9 +59,16 @@ bool BackupEngine::startVerify(const BackupJob &job, QString *refusal)
     return true;
 }
 
+void BackupEngine::setBytesPerSecond(qint64 limit)
+{
+    m_limit.setBytesPerSecond(limit, m_clock.elapsed());
+    scheduleSlice();
+}
+
 void BackupEngine::cancel()
 {
     m_isCancelRequested = isRunning();
+    scheduleSlice();
 }
 
 void BackupEngine::fileFinished(const QString &path, FileResult result)
@@ -92,6 +101,7 @@ void BackupEngine::fileRemoved()
 void BackupEngine::bytesWritten(qint64 count)
 {
     m_summary.bytesCopied += count;
+    m_limit.addBytes(count);
 }
 
 void BackupEngine::problemNoticed(const BackupProblem &problem)
@@ -124,7 +134,8 @@ void BackupEngine::begin(BackupTask *task)
     m_nextTask.reset();
     m_summary = BackupSummary();
     m_isCancelRequested = false;
-    m_timer.start(0);
+    m_limit.setBytesPerSecond(m_limit.bytesPerSecond(), m_clock.elapsed());
+    scheduleSlice();
 }
 
 void BackupEngine::runSlice()
@@ -134,9 +145,7 @@ void BackupEngine::runSlice()
     if (!hasMore) {
         endTask();
     }
-    if (isRunning()) {
-        m_timer.start(0);
-    }
+    scheduleSlice();
 }
 
 bool BackupEngine::stepForAWhile()
@@ -144,9 +153,12 @@ bool BackupEngine::stepForAWhile()
     QElapsedTimer timer;
     timer.start();
     bool hasMore = true;
-    while (hasMore && timer.elapsed() < sliceMilliseconds) {
+    do {
+        if (!m_isCancelRequested && m_limit.delay(m_clock.elapsed()) > 0) {
+            break;
+        }
         hasMore = stepOnce();
-    }
+    } while (hasMore && timer.elapsed() < sliceMilliseconds);
     return hasMore;
 }
 
@@ -167,5 +179,13 @@ void BackupEngine::endTask()
     }
     if (!m_task) {
         emit finished(m_summary);
+    }
+}
+
+void BackupEngine::scheduleSlice()
+{
+    if (isRunning()) {
+        const qint64 pause = m_isCancelRequested ? 0 : m_limit.delay(m_clock.elapsed());
+        m_timer.start(int(qMin(pause, longestPause)));
     }
 }

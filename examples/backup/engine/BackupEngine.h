@@ -4,7 +4,9 @@
 
 #include "BackupJob.h"
 #include "BackupReport.h"
+#include "BandwidthLimit.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -37,6 +39,16 @@ public:
         return m_task != nullptr;
     }
 
+    /// What the run, or the last one, has written so far.
+    qint64 bytesCopied() const
+    {
+        return m_summary.bytesCopied;
+    }
+
+    /// Lets no more than so many bytes a second be copied; 0, the default, is no limit. Takes
+    /// effect at once, for the run under way too.
+    void setBytesPerSecond(qint64 limit);
+
 public slots:
     /// Stops within a slice; finished() follows once the manifest has been written for what has
     /// been copied. Does nothing if nothing is running.
@@ -62,10 +74,13 @@ private:
     bool stepForAWhile();
     bool stepOnce();
     void endTask();
+    void scheduleSlice();
 
     std::unique_ptr<BackupTask> m_task;
     std::unique_ptr<BackupTask> m_nextTask;
     QTimer m_timer;
+    QElapsedTimer m_clock;
+    BandwidthLimit m_limit;
     BackupSummary m_summary;
     bool m_isCancelRequested = false;
 };

@@ -6,9 +6,11 @@
 #include "ProgressPanel.h"
 
 #include <EditableTableView.h>
+#include <SpinBox.h>
 
 #include <QDir>
-#include <QHeaderView>
+#include <QFormLayout>
+#include <QItemSelectionModel>
 #include <QStringListModel>
 #include <QVBoxLayout>
 
@@ -20,6 +22,7 @@ JobsPage::JobsPage(const QList<BackupJob> &jobs, QWidget *parent)
     , m_table(new EditableTableView)
     , m_engine(new BackupEngine(this))
     , m_progress(new ProgressPanel(m_engine))
+    , m_bandwidthLimit(new SpinBox)
 {
     for (const BackupJob &job : jobs) {
         m_jobs->appendJob(job);
@@ -27,12 +30,22 @@ JobsPage::JobsPage(const QList<BackupJob> &jobs, QWidget *parent)
     }
     collectTargets();
     setUpTable();
+    setUpBandwidthLimit();
     setUpLayout();
 
     connect(m_jobs, &JobModel::itemChanged, this, &JobsPage::changed);
     connect(m_jobs, &JobModel::rowsInserted, this, &JobsPage::changed);
     connect(m_jobs, &JobModel::rowsRemoved, this, &JobsPage::changed);
     connect(m_jobs, &JobModel::itemChanged, this, &JobsPage::collectTargets);
+    connect(m_jobs, &JobModel::itemChanged, this, &JobsPage::announceCurrentJob);
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &JobsPage::announceCurrentJob);
+}
+
+BackupJob JobsPage::currentJob() const
+{
+    const int row = qMax(0, m_table->currentIndex().row());
+    return row < m_jobs->rowCount() ? m_jobs->job(row) : BackupJob();
 }
 
 void JobsPage::addJob()
@@ -89,6 +102,21 @@ void JobsPage::collectTargets()
     }
 }
 
+void JobsPage::announceCurrentJob()
+{
+    emit currentJobChanged(currentJob());
+}
+
+void JobsPage::limitBandwidth(int mebibytes)
+{
+    m_engine->setBytesPerSecond(qint64(mebibytes) * 1024 * 1024);
+}
+
+void JobsPage::showBandwidthHint()
+{
+    emit message(tr("How much is copied in a second at most; 0 is no limit"));
+}
+
 void JobsPage::setUpTable()
 {
     m_table->setColumns(JobModel::columnDeclarations());
@@ -101,6 +129,8 @@ void JobsPage::setUpTable()
                              | QAbstractItemView::AnyKeyPressed);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setAccessibleName(tr("Backups"));
+    // The arrow keys go from cell to cell; Tab goes on to the buttons and out of the table.
+    m_table->setTabKeyNavigation(false);
 
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     const QList<int> widths = {20, 28, 28, 14, 12, 10, 12}; // in digits; the target takes the rest
@@ -112,9 +142,23 @@ void JobsPage::setUpTable()
                    SLOT(actOnClick(QWidget*,int,int)));
 }
 
+void JobsPage::setUpBandwidthLimit()
+{
+    m_bandwidthLimit->setRange(0, 10000);
+    m_bandwidthLimit->setSuffix(tr(" MiB/s"));
+    m_bandwidthLimit->setSpecialValueText(tr("none"));
+    connect(m_bandwidthLimit, QOverload<int>::of(&SpinBox::valueChanged), this,
+            &JobsPage::limitBandwidth);
+    connect(m_bandwidthLimit, &SpinBox::focused, this, &JobsPage::showBandwidthHint);
+}
+
 void JobsPage::setUpLayout()
 {
+    QFormLayout *settings = new QFormLayout;
+    settings->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    settings->addRow(tr("Bandwidth &limit:"), m_bandwidthLimit);
     QVBoxLayout *layout = new QVBoxLayout(this);
     layout->addWidget(m_table, 1);
+    layout->addLayout(settings);
     layout->addWidget(m_progress);
 }

@@ -10,6 +10,7 @@ class EditableTableView;
 class JobModel;
 class ProgressPanel;
 class QStringListModel;
+class SpinBox;
 
 /// The table of jobs and, below it, how the running one comes along.
 class JobsPage : public QWidget
@@ -32,6 +33,15 @@ public:
         return m_jobs;
     }
 
+    /// Of the copying, in MiB a second; 0 is none.
+    SpinBox *bandwidthLimit() const
+    {
+        return m_bandwidthLimit;
+    }
+
+    /// The job in the current row; the first one if there is no current row.
+    BackupJob currentJob() const;
+
 public slots:
     /// Adds a job from the home folder and opens the editor of its name.
     void addJob();
@@ -43,15 +53,21 @@ public slots:
 signals:
     /// The jobs are no longer what they were.
     void changed();
+    /// Another job is the current one, or it has been edited.
+    void currentJobChanged(const BackupJob &job);
     /// A sentence for the status bar.
     void message(const QString &text);
 
 private slots:
     void actOnClick(QWidget *button, int row, int column);
     void collectTargets();
+    void announceCurrentJob();
+    void limitBandwidth(int mebibytes);
+    void showBandwidthHint();
 
 private:
     void setUpTable();
+    void setUpBandwidthLimit();
     void setUpLayout();
 
     JobModel *m_jobs;
@@ -60,6 +76,7 @@ private:
     EditableTableView *m_table;
     BackupEngine *m_engine;
     ProgressPanel *m_progress;
+    SpinBox *m_bandwidthLimit;
 };
 
 #endif

@@ -1,22 +1,29 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "MainWindow.h"
 
+#include "FilesPage.h"
 #include "JobModel.h"
 #include "JobsPage.h"
+#ifdef TESSALINE_HAS_PLOT
+#include "ThroughputPage.h"
+#endif
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QToolBar>
 
 MainWindow::MainWindow(const JobStore &store, QWidget *parent)
     : QMainWindow(parent)
     , m_store(store)
     , m_jobsPage(new JobsPage(store.load()))
+    , m_filesPage(new FilesPage(m_jobsPage->engine()))
+    , m_pages(new QTabWidget)
 {
     setWindowTitle(tr("Backup"));
-    setCentralWidget(m_jobsPage);
+    setUpPages();
     setUpActions();
     statusBar();
     resize(960, 560);
@@ -24,9 +31,10 @@ MainWindow::MainWindow(const JobStore &store, QWidget *parent)
     m_saveSoon.setSingleShot(true);
     connect(&m_saveSoon, &QTimer::timeout, this, &MainWindow::save);
     connect(m_jobsPage, &JobsPage::changed, &m_saveSoon, QOverload<>::of(&QTimer::start));
-    connect(m_jobsPage, &JobsPage::message, statusBar(), [this](const QString &text) {
-        statusBar()->showMessage(text);
-    });
+    connect(m_jobsPage, &JobsPage::currentJobChanged, m_filesPage, &FilesPage::setJob);
+    connect(m_jobsPage, &JobsPage::message, this, &MainWindow::showHint);
+    connect(m_filesPage, &FilesPage::message, this, &MainWindow::showHint);
+    m_filesPage->setJob(m_jobsPage->currentJob());
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -34,7 +42,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
     save();
     BackupEngine *engine = m_jobsPage->engine();
     if (engine->isRunning()) {
-        connect(engine, &BackupEngine::finished, this, &QWidget::close, Qt::QueuedConnection);
+        connect(engine, &BackupEngine::finished, this, &QWidget::close,
+                Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
         engine->cancel();
         event->ignore();
     }
@@ -51,6 +60,21 @@ void MainWindow::save()
     if (!m_store.save(m_jobsPage->jobs()->jobs())) {
         statusBar()->showMessage(tr("The list of backups could not be saved."));
     }
+}
+
+void MainWindow::showHint(const QString &text)
+{
+    statusBar()->showMessage(text);
+}
+
+void MainWindow::setUpPages()
+{
+    m_pages->addTab(m_jobsPage, tr("&Backups"));
+    m_pages->addTab(m_filesPage, tr("&Files"));
+#ifdef TESSALINE_HAS_PLOT
+    m_pages->addTab(new ThroughputPage(m_jobsPage->engine()), tr("&Throughput"));
+#endif
+    setCentralWidget(m_pages);
 }
 
 void MainWindow::setUpActions()

@@ -7,7 +7,9 @@
 #include <QMainWindow>
 #include <QTimer>
 
+class FilesPage;
 class JobsPage;
+class QTabWidget;
 
 /// The program's window. Keeps the jobs in the store as they are edited.
 class MainWindow : public QMainWindow
@@ -22,6 +24,16 @@ public:
         return m_jobsPage;
     }
 
+    FilesPage *filesPage() const
+    {
+        return m_filesPage;
+    }
+
+    QTabWidget *pages() const
+    {
+        return m_pages;
+    }
+
 protected:
     /// Saves what is not saved yet. A running backup is cancelled in good order first.
     void closeEvent(QCloseEvent *event) override;
@@ -29,12 +41,16 @@ protected:
 private slots:
     void chooseSource();
     void save();
+    void showHint(const QString &text);
 
 private:
+    void setUpPages();
     void setUpActions();
 
     JobStore m_store;
     JobsPage *m_jobsPage;
+    FilesPage *m_filesPage;
+    QTabWidget *m_pages;
     QTimer m_saveSoon; ///< Gathers the changes of one edit into one save.
 };
 
