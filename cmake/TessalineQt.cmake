@@ -2,6 +2,7 @@
 # Chooses the Qt to build with. The only place that knows how the packages of Qt 4, 5 and 6 are
 # called; everything else uses the variables set here:
 #   TESSALINE_QT_CORE, TESSALINE_QT_WIDGETS, TESSALINE_QT_TEST   targets to link
+#   tessaline_add_translations(variable file.ts...)      makes .qm files and lists them in the variable
 #   TESSALINE_QT_SUFFIX                  what tells the library's file name of this Qt from the others
 
 set(TESSALINE_QT 5 CACHE STRING "Major version of Qt to build with: 4, 5 or 6")
@@ -41,3 +42,22 @@ if(TESSALINE_QT EQUAL 5)
 else()
     set(TESSALINE_QT_SUFFIX "Qt${TESSALINE_QT}")
 endif()
+
+# Without the tools, which are in a package of their own, programs speak English.
+function(tessaline_add_translations variable)
+    set(${variable} "" PARENT_SCOPE)
+    find_package(Qt${TESSALINE_QT}LinguistTools QUIET)
+    if(NOT Qt${TESSALINE_QT}LinguistTools_FOUND)
+        message(STATUS "Tessaline: without translations (no linguist tools for Qt ${TESSALINE_QT})")
+        return()
+    endif()
+    set_source_files_properties(${ARGN} PROPERTIES
+        OUTPUT_LOCATION "${CMAKE_CURRENT_BINARY_DIR}/translations")
+    # Not create_translation: "make clean" would delete the .ts files.
+    if(TESSALINE_QT EQUAL 5)
+        qt5_add_translation(files ${ARGN})
+    else()
+        qt6_add_translation(files ${ARGN})
+    endif()
+    set(${variable} ${files} PARENT_SCOPE)
+endfunction()

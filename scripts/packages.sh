@@ -35,6 +35,6 @@ need() {
 
 # What any build takes. The fonts: without one, texts are blank and no error tells.
 packages_build="cmake ninja-build g++ fonts-dejavu-core"
-packages_qt5="qtbase5-dev libqwt-qt5-dev"
-packages_qt6="qt6-base-dev libgl-dev"
+packages_qt5="qtbase5-dev libqwt-qt5-dev qttools5-dev qttools5-dev-tools"
+packages_qt6="qt6-base-dev libgl-dev qt6-tools-dev qt6-l10n-tools"
 packages_checks="clang-format clang-tidy clazy libbenchmark-dev"

@@ -24,38 +24,45 @@ const QLatin1String passphraseOption("passphrase-from-stdin");
 const QLatin1String picturesOption("pictures");
 const QLatin1String helpOption("help");
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("CommandLine", text);
-}
-
 void addOptions(QCommandLineParser *parser)
 {
     const QString folder = QStringLiteral("DIR");
-    parser->setApplicationDescription(translated("Mirrors a folder and checks the copy."));
-    parser->addOption({sourceOption, translated("Copy the content of DIR."), folder});
-    parser->addOption({targetOption, translated("Copy into DIR."), folder});
-    parser->addOption({runOption, translated("Copy at once, without a window.")});
+    parser->setApplicationDescription(
+        QCoreApplication::translate("CommandLine", "Mirrors a folder and checks the copy."));
+    parser->addOption({sourceOption,
+                       QCoreApplication::translate("CommandLine", "Copy the content of DIR."),
+                       folder});
     parser->addOption(
-        {verifyOption, translated("Read the copy back; after copying if with --run.")});
-    parser->addOption({passphraseOption,
-                       translated("Read the passphrase for the manifest's signature from the "
-                                  "first line of the standard input.")});
+        {targetOption, QCoreApplication::translate("CommandLine", "Copy into DIR."), folder});
     parser->addOption(
-        {picturesOption, translated("Write pictures of the window into DIR."), folder});
-    parser->addOption({{QStringLiteral("h"), helpOption}, translated("Show this help.")});
+        {runOption, QCoreApplication::translate("CommandLine", "Copy at once, without a window.")});
+    parser->addOption({verifyOption,
+                       QCoreApplication::translate(
+                           "CommandLine", "Read the copy back; after copying if with --run.")});
+    parser->addOption(
+        {passphraseOption,
+         QCoreApplication::translate("CommandLine",
+                                     "Read the passphrase for the manifest's signature from the "
+                                     "first line of the standard input.")});
+    parser->addOption(
+        {picturesOption,
+         QCoreApplication::translate("CommandLine", "Write pictures of the window into DIR."),
+         folder});
+    parser->addOption({{QStringLiteral("h"), helpOption},
+                       QCoreApplication::translate("CommandLine", "Show this help.")});
 }
 
 QString errorOf(const QCommandLineParser &parser, const CommandLine &commandLine)
 {
     if (!parser.positionalArguments().isEmpty()) {
-        return translated("Unexpected argument: %1").arg(parser.positionalArguments().constFirst());
+        return QCoreApplication::translate("CommandLine", "Unexpected argument: %1")
+            .arg(parser.positionalArguments().constFirst());
     }
     if (commandLine.wantsRun && commandLine.sourceFolder.isEmpty()) {
-        return translated("--run needs --source.");
+        return QCoreApplication::translate("CommandLine", "--run needs --source.");
     }
     if (!commandLine.opensWindow() && commandLine.targetFolder.isEmpty()) {
-        return translated("--run and --verify need --target.");
+        return QCoreApplication::translate("CommandLine", "--run and --verify need --target.");
     }
     return QString();
 }

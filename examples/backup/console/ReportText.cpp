@@ -6,26 +6,21 @@
 
 namespace {
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("ReportText", text);
-}
-
 QString phaseText(BackupPhase phase)
 {
     switch (phase) {
     case BackupPhase::Preparing:
-        return translated("Preparing");
+        return QCoreApplication::translate("ReportText", "Preparing");
     case BackupPhase::Scanning:
-        return translated("Scanning");
+        return QCoreApplication::translate("ReportText", "Scanning");
     case BackupPhase::Copying:
-        return translated("Copying");
+        return QCoreApplication::translate("ReportText", "Copying");
     case BackupPhase::Removing:
-        return translated("Removing");
+        return QCoreApplication::translate("ReportText", "Removing");
     case BackupPhase::Finishing:
-        return translated("Finishing");
+        return QCoreApplication::translate("ReportText", "Finishing");
     case BackupPhase::Verifying:
-        return translated("Verifying");
+        return QCoreApplication::translate("ReportText", "Verifying");
     }
     return QString();
 }
@@ -35,7 +30,7 @@ QString phaseText(BackupPhase phase)
 QString ReportText::progress(const BackupProgress &progress)
 {
     const QLocale locale;
-    return translated("%1: %2 of %3 files, %4 of %5  %6")
+    return QCoreApplication::translate("ReportText", "%1: %2 of %3 files, %4 of %5  %6")
         .arg(phaseText(progress.phase), locale.toString(progress.filesDone),
              locale.toString(progress.filesTotal), locale.formattedDataSize(progress.bytesDone),
              locale.formattedDataSize(progress.bytesTotal), progress.currentFile);
@@ -44,9 +39,12 @@ QString ReportText::progress(const BackupProgress &progress)
 QString ReportText::summary(const BackupSummary &summary)
 {
     const QLocale locale;
-    return translated("%1%2 new, %3 changed, %4 unchanged, %5 removed, %6 verified, %7 failed; "
-                      "%8 copied; %9 problems")
-        .arg(summary.cancelled ? translated("Cancelled: ") : QString(),
+    return QCoreApplication::translate(
+               "ReportText",
+               "%1%2 new, %3 changed, %4 unchanged, %5 removed, %6 verified, %7 failed; "
+               "%8 copied; %9 problems")
+        .arg(summary.cancelled ? QCoreApplication::translate("ReportText", "Cancelled: ")
+                               : QString(),
              locale.toString(summary.newFiles), locale.toString(summary.changedFiles),
              locale.toString(summary.unchangedFiles), locale.toString(summary.removedFiles),
              locale.toString(summary.verifiedFiles), locale.toString(summary.failedFiles),

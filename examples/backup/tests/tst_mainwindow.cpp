@@ -11,9 +11,11 @@
 #include <SpinBox.h>
 
 #include <QApplication>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTranslator>
 #include <QtTest>
 
 #include <memory>
@@ -80,6 +82,7 @@ private slots:
     void hintsAtTheBandwidthLimitWhenItGetsTheFocus();
     void takesThePageSizeFromItsBox();
     void reachesEverythingByKeyboard();
+    void speaksGerman();
 };
 
 void tst_MainWindow::listsTheFirstJobsFiles()
@@ -180,6 +183,35 @@ void tst_MainWindow::reachesEverythingByKeyboard()
     QVERIFY(reached.contains(QStringLiteral("EditableTableViewButton column6")));
     QVERIFY(reached.contains(QStringLiteral("SpinBox")));
     QVERIFY(reached.contains(QStringLiteral("QTabBar")));
+}
+
+void tst_MainWindow::speaksGerman()
+{
+    QTranslator translator;
+    if (!translator.load(QStringLiteral("backup_de"), QStringLiteral(TRANSLATIONS_FOLDER))) {
+        QSKIP("Built without translations.");
+    }
+    QCoreApplication::installTranslator(&translator);
+    const Window window;
+    window.showFiles();
+    QTRY_COMPARE(window.listedNames(), QStringList(QStringLiteral("one")));
+    EditableTableView *table = window->jobsPage()->table();
+
+    const QPushButton *run = qobject_cast<QPushButton *>(table->button(0, JobModel::Run));
+    FileListModel *files = window->filesPage()->model();
+    files->setPageSize(1);
+    window.first.write("more", "1");
+    window.first.write("most", "1");
+    files->setJob(window.first.job);
+    QTRY_COMPARE(files->rowCount(), 2);
+    const QPushButton *next
+        = qobject_cast<QPushButton *>(window->filesPage()->list()->indexWidget(files->index(1, 0)));
+
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(run->text(), QStringLiteral("Starten"));
+    QVERIFY(next);
+    QTRY_COMPARE(next->text(), QStringLiteral("Weiter >>"));
+    QCOMPARE(window->windowTitle(), QStringLiteral("Sicherung"));
 }
 
 int main(int argc, char **argv)
