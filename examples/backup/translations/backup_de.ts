@@ -385,6 +385,14 @@
         <source>Add &amp;folder to choose from...</source>
         <translation>&amp;Ordner zur Auswahl hinzufügen...</translation>
     </message>
+    <message>
+        <source>&amp;Menu</source>
+        <translation>&amp;Menü</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
 </context>
 <context>
     <name>ManifestWriter</name>

@@ -24,6 +24,15 @@ bool isBefore(const ListedFile &left, const ListedFile &right, int column)
     }
 }
 
+// Fits the narrow column: the time of day for what is recent, the year for the rest.
+QString shortTime(const QDateTime &time)
+{
+    const qint64 days = time.daysTo(QDateTime::currentDateTime());
+    const bool isRecent = days >= 0 && days < 180;
+    return QLocale().toString(
+        time, isRecent ? QStringLiteral("d MMM hh:mm") : QStringLiteral("d MMM yyyy"));
+}
+
 } // namespace
 
 FileListModel::FileListModel(QObject *parent)
@@ -61,6 +70,9 @@ QVariant FileListModel::data(const QModelIndex &index, int role) const
     }
     if (role == Qt::ToolTipRole && index.column() == Name) {
         return file.name;
+    }
+    if (role == Qt::ToolTipRole && index.column() == Modified) {
+        return QLocale().toString(file.modified, QLocale::LongFormat);
     }
     if (role == Qt::TextAlignmentRole && index.column() == Size) {
         return int(Qt::AlignRight | Qt::AlignVCenter);
@@ -176,7 +188,7 @@ QVariant FileListModel::textOf(const ListedFile &file, int column) const
     case Name:
         return file.name;
     case Modified:
-        return file.modified.toString(QStringLiteral("yyyy-MM-dd hh:mm")); // fits the column
+        return shortTime(file.modified);
     case Size:
         return QLocale().formattedDataSize(file.size, 1, QLocale::DataSizeTraditionalFormat);
     case Type:

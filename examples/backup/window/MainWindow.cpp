@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <QMenuBar>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QToolBar>
@@ -79,11 +80,16 @@ void MainWindow::setUpPages()
 
 void MainWindow::setUpActions()
 {
+    QMenu *menu = menuBar()->addMenu(tr("&Menu"));
     QToolBar *toolBar = addToolBar(tr("Backups"));
     toolBar->setObjectName(QStringLiteral("backups"));
-    QAction *add = toolBar->addAction(tr("&New backup"), m_jobsPage, &JobsPage::addJob);
+    QAction *add = menu->addAction(tr("&New backup"), m_jobsPage, &JobsPage::addJob);
     add->setShortcut(QKeySequence::New);
+    toolBar->addAction(add);
     QAction *source
-        = toolBar->addAction(tr("Add &folder to choose from..."), this, &MainWindow::chooseSource);
+        = menu->addAction(tr("Add &folder to choose from..."), this, &MainWindow::chooseSource);
     source->setShortcut(QKeySequence::Open);
+    toolBar->addAction(source);
+    QAction *quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
+    quit->setShortcut(QKeySequence::Quit);
 }
