@@ -31,9 +31,13 @@ void RatioReporter::Finalize()
     for (const Comparison &comparison : comparisons) {
         const double ratio = medians[comparison.ours] / medians[comparison.baseline];
         const bool isGrowth = comparison.sizeFactor > 0;
-        std::printf("%-58s %8.2f %8.2f\n", comparison.what.c_str(),
-                    isGrowth ? std::log(ratio) / std::log(comparison.sizeFactor) : ratio,
-                    comparison.most);
+        std::printf("%-58s %8.2f ", comparison.what.c_str(),
+                    isGrowth ? std::log(ratio) / std::log(comparison.sizeFactor) : ratio);
+        if (comparison.most > 0) {
+            std::printf("%8.2f\n", comparison.most);
+        } else {
+            std::printf("%8s\n", "-");
+        }
     }
 }
 

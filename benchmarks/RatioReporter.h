@@ -14,7 +14,7 @@ struct Comparison
     std::string what;
     std::string ours; ///< name of the measured run, such as "table/setModelShown/1000"
     std::string baseline; ///< the run it is held against
-    double most; ///< the ratio that it has to keep
+    double most; ///< the ratio that it has to keep; 0: there is none
     double sizeFactor; ///< 0: a ratio; else a growth exponent for sizes this many times apart
 };
 

@@ -37,4 +37,4 @@ need() {
 packages_build="cmake ninja-build g++ fonts-dejavu-core"
 packages_qt5="qtbase5-dev libqwt-qt5-dev qttools5-dev qttools5-dev-tools"
 packages_qt6="qt6-base-dev libgl-dev qt6-tools-dev qt6-l10n-tools"
-packages_checks="clang-format clang-tidy clazy libbenchmark-dev"
+packages_checks="clang-format clang-tidy clazy libbenchmark-dev libqcustomplot-dev libqt5charts5-dev"
