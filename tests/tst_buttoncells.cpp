@@ -6,17 +6,15 @@
 
 #include <QAbstractItemModel>
 #include <QPointer>
-#include <QScrollBar>
 #include <QStandardItemModel>
 
 namespace {
 
-/// Lets a test call the protected slots, and counts the rows that are announced one by one.
+/// Lets a test announce a row, and notes the rows that are announced and how often all are laid
+/// out.
 class OpenTableView : public EditableTableView
 {
 public:
-    using EditableTableView::rowsInserted;
-
     void doItemsLayout() override
     {
         ++layouts;
@@ -92,8 +90,12 @@ class GermanCaptions : public compat::Translator
 protected:
     QString find(const QByteArray &context, const QByteArray &source) const override
     {
-        const bool isOurs = context == "EditableTableView" && source == "Delete";
-        return isOurs ? QString::fromUtf8("L\xc3\xb6schen") : QString();
+        if (context != "EditableTableView") {
+            return QString();
+        }
+        return source == "Delete"                             ? QString::fromUtf8("L\xc3\xb6schen")
+            : source == compat::sourceBytes("L\xc3\xb6schen") ? QString("Weg damit")
+                                                              : QString();
     }
 };
 
@@ -110,6 +112,7 @@ private Q_SLOTS:
     void captionsItsButtons_data();
     void captionsItsButtons();
     void translatesACaptionWhenTheButtonIsMade();
+    void translatesACaptionBeyondAscii();
     void givesTheFirstRowOfABlockItsButtonsOnly();
     void givesACellOneButtonOnly();
     void makesButtonsInEachButtonColumn();
@@ -216,6 +219,17 @@ void ButtonCellsTest::translatesACaptionWhenTheButtonIsMade()
     QCoreApplication::removeTranslator(&german);
     QCOMPARE(table.button(0)->text(), QString("Delete"));
     QCOMPARE(table.button(3)->text(), QString::fromUtf8("L\xc3\xb6schen"));
+}
+
+void ButtonCellsTest::translatesACaptionBeyondAscii()
+{
+    GermanCaptions german;
+    QCoreApplication::installTranslator(&german);
+
+    Table table(QStringList() << "" << QString::fromUtf8("button:L\xc3\xb6schen"));
+
+    QCoreApplication::removeTranslator(&german);
+    QCOMPARE(table.button(0)->text(), QString("Weg damit"));
 }
 
 void ButtonCellsTest::givesTheFirstRowOfABlockItsButtonsOnly()

@@ -126,6 +126,7 @@ void EditableTableViewTest::listsItsMethodsInOrder()
     QTEST(int(method.methodType()), "type");
     QTEST(int(method.access()), "access");
     QTEST(joined(method.parameterNames()), "names");
+    QCOMPARE(bool(method.attributes() & QMetaMethod::Cloned), place == 3);
     const QString typeName = method.typeName();
     QCOMPARE(typeName == "void" ? QString() : typeName, result);
 }
@@ -401,6 +402,9 @@ void EditableTableViewTest::givesItsDelegatesNoParent()
     for (int column = 0; column < 5; ++column) {
         QVERIFY(view.itemDelegateForColumn(column));
         QVERIFY(!view.itemDelegateForColumn(column)->parent());
+        const QMetaObject *metaObject = view.itemDelegateForColumn(column)->metaObject();
+        QCOMPARE(metaObject->methodCount(), metaObject->methodOffset());
+        QCOMPARE(metaObject->propertyCount(), metaObject->propertyOffset());
     }
 }
 

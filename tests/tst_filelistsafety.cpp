@@ -45,7 +45,7 @@ protected:
         if (isSessionChange) {
             model->changeSession();
         } else {
-            model->announce(7, false);
+            model->announce(7, true);
         }
     }
 
@@ -82,6 +82,8 @@ private Q_SLOTS:
     void survivesAModelReplacedWhileItsButtonIsClicked();
     void takesAPageFromAnotherThread();
     void takesASessionFromAnotherThread();
+    void sparesTheNextModelFromALatePageOrSession_data();
+    void sparesTheNextModelFromALatePageOrSession();
     void ignoresRowsOfAChild();
 
 public Q_SLOTS:
@@ -297,7 +299,7 @@ void FileListSafetyTest::takesAPageFromAnotherThread()
     QVERIFY(loader.wait());
 
     QCOMPARE(labelOfButton(view), QString("loading..."));
-    QTRY_COMPARE(labelOfButton(view), QString("Next >>"));
+    QTRY_COMPARE(labelOfButton(view), QString("none"));
 }
 
 void FileListSafetyTest::takesASessionFromAnotherThread()
@@ -312,6 +314,35 @@ void FileListSafetyTest::takesASessionFromAnotherThread()
 
     QTRY_COMPARE(model.requests, 1);
     QCOMPARE(labelOfButton(view), QString("loading..."));
+}
+
+void FileListSafetyTest::sparesTheNextModelFromALatePageOrSession_data()
+{
+    QTest::addColumn<bool>("changesSession");
+
+    QTest::newRow("page") << false;
+    QTest::newRow("session") << true;
+}
+
+void FileListSafetyTest::sparesTheNextModelFromALatePageOrSession()
+{
+    QFETCH(bool, changesSession);
+    PagedModel model;
+    PagedModel second;
+    FileListTableView view;
+    view.setModel(&model);
+    view.StartLoadingData();
+    Loader loader(&model, changesSession);
+    loader.start();
+    QVERIFY(loader.wait()); // what it said is on its way to the view
+
+    view.setModel(&second);
+    second.insertPage(3);
+    goThroughEvents();
+
+    QCOMPARE(second.rowCount(), 4);
+    QCOMPARE(second.requests, 0);
+    QCOMPARE(labelOfButton(view), QString()); // nothing was asked for, nothing has come
 }
 
 void FileListSafetyTest::ignoresRowsOfAChild()

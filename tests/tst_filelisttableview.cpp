@@ -10,7 +10,20 @@
 
 namespace {
 
-/// A list of 600 x 400 pixels; the model is set after the view is shown, as an application does.
+/// Counts how often all rows are laid out.
+class NotingView : public FileListTableView
+{
+public:
+    void doItemsLayout() override
+    {
+        ++layouts;
+        FileListTableView::doItemsLayout();
+    }
+
+    int layouts = 0;
+};
+
+/// A shown list of 600 x 400 pixels.
 struct List
 {
     List()
@@ -59,8 +72,17 @@ struct List
     }
 
     PagedModel model;
-    FileListTableView view;
+    NotingView view;
 };
+
+QString joined(const QList<QByteArray> &names)
+{
+    QStringList list;
+    for (const QByteArray &name : names) {
+        list.append(QString(name));
+    }
+    return list.join(",");
+}
 
 class GermanPaging : public compat::Translator
 {
@@ -115,20 +137,36 @@ private Q_SLOTS:
     void followsTheLastRowWhenAModelAppendsBehindIt();
     void leavesTheCurrentCellAloneWhenTheButtonIsClicked();
     void deletesItsButtonWithItself();
+    void deletesAButtonThatNeverFoundACell();
+    void hidesASortArrowThatAnApplicationShows();
+    void leavesHeaderAndFrameOutOfAccount();
+    void leavesRoomForTheScrollBarOnlyWhenTheRowsExceedTheView();
+    void adjustsTheColumnsWithoutThePagingRow();
+    void leavesAResizeToThePlainWidgetHandler();
+    void laysOutAPageOnce();
+    void keepsTheNewModelsRowsFromTheOldModelsSession();
+    void keepsARequestUnderWayWhenTheSameModelIsSetAgain();
 };
 
 void FileListTableViewTest::listsItsMethodsInOrder_data()
 {
     QTest::addColumn<int>("place");
     QTest::addColumn<QString>("signature");
+    QTest::addColumn<QString>("names");
     QTest::addColumn<bool>("isSignal");
 
-    QTest::newRow("request") << 0 << "requestItems()" << true;
-    QTest::newRow("rows inserted") << 1 << "rowsInserted(QModelIndex,int,int)" << false;
-    QTest::newRow("start") << 2 << "StartLoadingData()" << false;
-    QTest::newRow("finish") << 3 << "FinishLoadingData(qint64,bool)" << false;
-    QTest::newRow("session") << 4 << "SessionChanged()" << false;
-    QTest::newRow("sort") << 5 << "SortByColumn(int)" << false;
+    QTest::newRow("request") << 0 << "requestItems()"
+                             << "" << true;
+    QTest::newRow("rows inserted") << 1 << "rowsInserted(QModelIndex,int,int)"
+                                   << "rParentIndex,start,end" << false;
+    QTest::newRow("start") << 2 << "StartLoadingData()"
+                           << "" << false;
+    QTest::newRow("finish") << 3 << "FinishLoadingData(qint64,bool)"
+                            << "count,completed" << false;
+    QTest::newRow("session") << 4 << "SessionChanged()"
+                             << "" << false;
+    QTest::newRow("sort") << 5 << "SortByColumn(int)"
+                          << "column" << false;
 }
 
 void FileListTableViewTest::listsItsMethodsInOrder()
@@ -143,7 +181,10 @@ void FileListTableViewTest::listsItsMethodsInOrder()
     QCOMPARE(metaObject.indexOfMethod(signature.toLatin1().constData()),
              metaObject.methodOffset() + place);
     QCOMPARE(method.methodType() == QMetaMethod::Signal, isSignal);
-    QVERIFY(isSignal || method.access() == QMetaMethod::Public);
+    QCOMPARE(int(method.access()), isSignal ? int(compat::signalAccess) : int(QMetaMethod::Public));
+    QTEST(joined(method.parameterNames()), "names");
+    QCOMPARE(metaObject.propertyCount(), metaObject.propertyOffset());
+    QCOMPARE(QString(metaObject.className()), QString("FileListTableView"));
     QCOMPARE(metaObject.methodCount() - metaObject.methodOffset(), 6);
 }
 
@@ -546,6 +587,123 @@ void FileListTableViewTest::deletesItsButtonWithItself()
 
     QVERIFY(button.isNull());
     QCOMPARE(model.rowCount(), 1);
+}
+
+void FileListTableViewTest::deletesAButtonThatNeverFoundACell()
+{
+    const int before = int(QApplication::topLevelWidgets().size());
+    PagedModel model;
+    model.setColumnCount(0);
+    FileListTableView *view = new FileListTableView;
+    view->setModel(&model);
+
+    delete view;
+
+    QCOMPARE(int(QApplication::topLevelWidgets().size()), before);
+}
+
+void FileListTableViewTest::hidesASortArrowThatAnApplicationShows()
+{
+    List list;
+    list.fill(3);
+    list.view.horizontalHeader()->setSortIndicatorShown(true);
+
+    list.clickHeader(0);
+
+    QVERIFY(!list.view.horizontalHeader()->isSortIndicatorShown());
+}
+
+void FileListTableViewTest::leavesHeaderAndFrameOutOfAccount()
+{
+    List list;
+
+    list.fill(21); // with the paging row 22 x 18 = 396: more than the viewport, less than the view
+
+    QTRY_VERIFY(list.view.verticalScrollBar()->isVisible());
+    QCOMPARE(list.view.horizontalHeader()->sectionSize(0), 285);
+}
+
+void FileListTableViewTest::leavesRoomForTheScrollBarOnlyWhenTheRowsExceedTheView()
+{
+    List list;
+    list.fill(21);
+    list.view.resize(601, 22 * 18);
+    QCoreApplication::processEvents();
+
+    list.view.FinishLoadingData(0, false);
+
+    QCOMPARE(list.view.horizontalHeader()->sectionSize(0), 286);
+}
+
+void FileListTableViewTest::adjustsTheColumnsWithoutThePagingRow()
+{
+    List list;
+    list.fill(22); // 23 rows: more than the view
+    QVERIFY(list.view.horizontalHeader()->sectionSize(0) < 285);
+
+    list.model.announce(0, true); // 22 rows: less
+
+    QCOMPARE(list.view.horizontalHeader()->sectionSize(0), 285);
+}
+
+void FileListTableViewTest::leavesAResizeToThePlainWidgetHandler()
+{
+    PagedModel model;
+    QWidget window;
+    FileListTableView *view = new FileListTableView;
+    view->setParent(&window);
+    view->setModel(&model);
+    view->resize(600, 300);
+    showWindow(&window, 900, 400);
+    QCoreApplication::processEvents();
+    const int before = view->horizontalHeader()->width();
+
+    view->resize(700, 300);
+
+    QCOMPARE(view->horizontalHeader()->width(), before); // the item view has not reacted
+    QTRY_COMPARE(view->horizontalHeader()->width(), view->viewport()->width());
+}
+
+void FileListTableViewTest::laysOutAPageOnce()
+{
+    List list;
+    list.fill(3);
+    list.view.StartLoadingData();
+    QCoreApplication::processEvents();
+    list.view.layouts = 0;
+
+    for (int row = 0; row < 20; ++row) {
+        list.model.insertPage(1);
+    }
+    list.model.announce(20, false);
+    QCoreApplication::processEvents();
+
+    QVERIFY(list.view.layouts <= 2);
+}
+
+void FileListTableViewTest::keepsTheNewModelsRowsFromTheOldModelsSession()
+{
+    List list;
+    PagedModel second;
+    list.view.setModel(&second);
+    list.view.StartLoadingData();
+    second.deliver(3, false);
+
+    list.model.changeSession();
+
+    QCOMPARE(second.rowCount(), 4);
+    QCOMPARE(second.requests, 1);
+}
+
+void FileListTableViewTest::keepsARequestUnderWayWhenTheSameModelIsSetAgain()
+{
+    List list;
+    list.view.StartLoadingData();
+
+    list.view.setModel(&list.model);
+    list.view.StartLoadingData();
+
+    QCOMPARE(list.model.requests, 1);
 }
 
 TESSALINE_TEST_MAIN(FileListTableViewTest)

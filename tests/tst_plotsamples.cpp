@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QVariant>
 
+#include <cstdlib>
 #include <ctime>
 #include <limits>
 
@@ -37,7 +38,11 @@ public:
 
     ~TimeZone()
     {
-        qputenv("TZ", previous);
+        if (previous.isNull()) {
+            ::unsetenv("TZ");
+        } else {
+            qputenv("TZ", previous);
+        }
         tzset();
     }
 

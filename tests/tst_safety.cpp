@@ -6,10 +6,13 @@
 #include "ViewHelpers.h"
 
 #include <QAbstractItemDelegate>
+#include <QEventLoop>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QPointer>
 #include <QStandardItemModel>
 #include <QStringListModel>
+#include <QTimer>
 
 namespace {
 
@@ -98,10 +101,17 @@ private Q_SLOTS:
     void ignoresABindingItCannotMake_data();
     void ignoresABindingItCannotMake();
     void ignoresARowThatIsNotThere();
-    void ignoresRowsOfAChild();
+    void looksForRowsOfAChildUnderTheirParent();
     void commitsAnOpenEditorWhenColumnsAreDeclaredAnew();
     void keepsAnUnfinishedSecretOutOfTheTextWhenColumnsAreDeclaredAnew();
+    void keepsASecretTypedAwayFromTheCurrentCellOutOfTheText();
+    void commitsAndClosesAPersistentEditor();
+    void leavesAnApplicationsOwnWidgetAlone();
     void leavesACellAloneWhoseEditorWasNotTouched();
+    void writesNothingFromAButtonInTheCurrentCell();
+    void commitsAnEditorOfAnotherTable();
+    void commitsAnotherEditorOfATableThatIsCommitting();
+    void keepsADelegateInUseThroughANestedEventLoop();
     void survivesColumnsDeclaredAnewDuringACommit_data();
     void survivesColumnsDeclaredAnewDuringACommit();
     void survivesAModelReplacedDuringAnEdit();
@@ -112,16 +122,32 @@ private Q_SLOTS:
 
 public Q_SLOTS:
     void declareColumnsAnew();
+    void declareColumnsAnewInALoop();
     void removeRow(QWidget *button, int row);
     void deleteView();
 
 private:
     QPointer<EditableTableView> actedOn;
+    QPointer<QObject> delegateInUse;
+    bool wasAliveAfterTheLoop = false;
 };
 
 void SafetyTest::declareColumnsAnew()
 {
     actedOn->setColumns(declarations());
+}
+
+void SafetyTest::declareColumnsAnewInALoop()
+{
+    if (!delegateInUse || wasAliveAfterTheLoop) {
+        return;
+    }
+    QEventLoop loop;
+    QTimer::singleShot(0, this, SLOT(declareColumnsAnew()));
+    QTimer::singleShot(20, &loop, SLOT(quit()));
+    loop.exec();
+    compat::deliverDeferredDeletes();
+    wasAliveAfterTheLoop = !delegateInUse.isNull();
 }
 
 void SafetyTest::removeRow(QWidget *, int row)
@@ -311,7 +337,7 @@ void SafetyTest::ignoresARowThatIsNotThere()
     QCOMPARE(QApplication::topLevelWidgets().size(), 1); // no button was left without a parent
 }
 
-void SafetyTest::ignoresRowsOfAChild()
+void SafetyTest::looksForRowsOfAChildUnderTheirParent()
 {
     QStandardItemModel model(1, 3);
     model.setItem(0, 0, new QStandardItem("parent"));
@@ -356,7 +382,137 @@ void SafetyTest::keepsAnUnfinishedSecretOutOfTheTextWhenColumnsAreDeclaredAnew()
     QCOMPARE(table.model->writes.filter("typed"), QStringList() << "secret typed");
 }
 
+void SafetyTest::keepsASecretTypedAwayFromTheCurrentCellOutOfTheText()
+{
+    RecordingModel model(3, 3);
+    EditableTableView view;
+    view.setColumns(declarations());
+    view.setModel(&model);
+    showWindow(&view, 400, 200);
+    view.setCurrentIndex(model.index(2, 0));
+    view.edit(model.index(0, 2));
+    QWidget *field = view.indexWidget(model.index(0, 2));
+    QVERIFY(field);
+    QTest::keyClicks(field, "typed");
+
+    view.setColumns(QStringList() << "editbox"
+                                  << "button"
+                                  << "editbox");
+    view.setCurrentIndex(model.index(0, 2));
+    view.setCurrentIndex(model.index(1, 0));
+    goThroughEvents();
+
+    QCOMPARE(model.index(0, 2).data(Qt::UserRole + 1).toString(), QString("typed"));
+    QCOMPARE(model.writes.filter("typed"), QStringList() << "secret typed");
+}
+
+void SafetyTest::commitsAndClosesAPersistentEditor()
+{
+    RecordingModel model(3, 3);
+    EditableTableView view;
+    view.setColumns(declarations());
+    view.setModel(&model);
+    showWindow(&view, 400, 200);
+    view.openPersistentEditor(model.index(1, 0));
+    const QPointer<QWidget> field = view.indexWidget(model.index(1, 0));
+    QVERIFY(field);
+    QTest::keyClicks(field, "typed");
+
+    view.setColumns(QStringList() << "checkbox");
+    goThroughEvents();
+
+    QVERIFY(!field);
+    QCOMPARE(model.writes, QStringList() << "edit typed");
+}
+
+void SafetyTest::leavesAnApplicationsOwnWidgetAlone()
+{
+    RecordingModel model(3, 3);
+    EditableTableView view;
+    view.setColumns(declarations());
+    view.setModel(&model);
+    QLineEdit *own = new QLineEdit("mine");
+    view.setIndexWidget(model.index(0, 0), own);
+    view.setCurrentIndex(model.index(0, 0));
+
+    view.setColumns(declarations());
+    goThroughEvents();
+
+    QCOMPARE(view.indexWidget(model.index(0, 0)), static_cast<QWidget *>(own));
+    QCOMPARE(model.writes, QStringList());
+}
+
 void SafetyTest::leavesACellAloneWhoseEditorWasNotTouched()
+{
+    RecordingModel model(1, 3);
+    model.put(0, 0, 7);
+    EditableTableView view;
+    view.setColumns(declarations());
+    view.setModel(&model);
+    showWindow(&view, 400, 200);
+    const QPointer<QWidget> field = openEditor(&view, model.index(0, 0));
+    QVERIFY(field);
+
+    view.setColumns(declarations());
+    goThroughEvents();
+
+    QVERIFY(!field);
+    QCOMPARE(model.writes, QStringList());
+    QCOMPARE(model.index(0, 0).data().toInt(), 7);
+}
+
+void SafetyTest::commitsAnEditorOfAnotherTable()
+{
+    RecordingModel otherModel(1, 3);
+    EditableTableView other;
+    other.setColumns(declarations());
+    other.setModel(&otherModel);
+    other.openPersistentEditor(otherModel.index(0, 0));
+    QTest::keyClicks(other.indexWidget(otherModel.index(0, 0)), "other");
+    TableInEdit table;
+    QVERIFY(table.editor);
+    actedOn = &other;
+    connect(table.model, SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(declareColumnsAnew()));
+
+    QTest::keyClick(table.editor, Qt::Key_Return);
+    goThroughEvents();
+
+    QCOMPARE(otherModel.index(0, 0).data().toString(), QString("other"));
+    QCOMPARE(table.model->index(0, 0).data().toString(), QString("typed"));
+}
+
+void SafetyTest::commitsAnotherEditorOfATableThatIsCommitting()
+{
+    TableInEdit table;
+    QVERIFY(table.editor);
+    table.view.openPersistentEditor(table.model->index(1, 0));
+    QTest::keyClicks(table.view.indexWidget(table.model->index(1, 0)), "other");
+    actedOn = &table.view;
+    connect(table.model, SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(declareColumnsAnew()));
+
+    QTest::keyClick(table.editor, Qt::Key_Return);
+    goThroughEvents();
+
+    QCOMPARE(texts(*table.model, 0), QString("typed,other,"));
+}
+
+void SafetyTest::keepsADelegateInUseThroughANestedEventLoop()
+{
+    TableInEdit table;
+    QVERIFY(table.editor);
+    actedOn = &table.view;
+    delegateInUse = table.view.itemDelegateForColumn(0);
+    connect(table.model,
+            SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(declareColumnsAnewInALoop()));
+
+    QTest::keyClick(table.editor, Qt::Key_Return);
+    goThroughEvents();
+
+    QVERIFY(wasAliveAfterTheLoop);
+    QVERIFY(delegateInUse.isNull()); // gone when nobody uses it any more
+}
+
+void SafetyTest::writesNothingFromAButtonInTheCurrentCell()
 {
     RecordingModel model(1, 3);
     EditableTableView view;

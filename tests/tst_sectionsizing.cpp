@@ -71,6 +71,7 @@ private Q_SLOTS:
     void aFixedNeighbourHandsTheDifferenceToTheLeft_data();
     void aFixedNeighbourHandsTheDifferenceToTheLeft();
     void readsTheLogicalNeighbourAsAVisualPosition();
+    void asksTheLogicalNeighbourForItsMode();
     void findsTheStretchSectionByItsLogicalIndex();
     void compensatesASectionResizedByCode();
     void resizesOneSectionWithoutItsNeighbour_data();
@@ -192,6 +193,18 @@ void SectionSizingTest::readsTheLogicalNeighbourAsAVisualPosition()
     table.header()->resizeSection(0, 130);
 
     // Beside section 0 stands logical 1, but the visual position 1 holds section 0 itself.
+    QCOMPARE(widths(table.view), QString("100,200,100"));
+}
+
+void SectionSizingTest::asksTheLogicalNeighbourForItsMode()
+{
+    Table table;
+    table.header()->moveSection(0, 2); // shown: 1, 2, 0
+    compat::fixSection(table.header(), 2);
+
+    table.header()->resizeSection(1, 230);
+
+    // Logical 2 is fixed, so the left neighbour absorbs: visual position 0, which is section 1.
     QCOMPARE(widths(table.view), QString("100,200,100"));
 }
 

@@ -6,6 +6,7 @@
 #include "TimeScaleDraw.h"
 #include "UpdatablePlot.h"
 
+#include <qwt_plot_canvas.h>
 #include <qwt_plot_layout.h>
 #include <qwt_scale_widget.h>
 #include <qwt_text.h>
@@ -91,6 +92,7 @@ private Q_SLOTS:
     void takesColors_data();
     void takesColors();
     void fillsTheCurveTranslucently();
+    void repaintsAShownCanvasInItsNewColor();
     void takesTitlesAsPlainText();
     void addsASampleAtTheCurrentSecond();
     void keepsOneSampleASecond();
@@ -110,6 +112,10 @@ private Q_SLOTS:
 
 void UpdatablePlotTest::initTestCase()
 {
+    const QDateTime now = PlotClock::currentDateTime();
+    QVERIFY(qAbs(QDateTime::currentDateTime().secsTo(now)) <= 60);
+    QVERIFY(PlotClock::startTime <= now); // taken before main()
+    QVERIFY(PlotClock::startTime.secsTo(now) <= 60);
     PlotClock::currentDateTime = pretendedTime;
 }
 
@@ -183,7 +189,7 @@ void UpdatablePlotTest::startsWithoutTitlesAndLegend()
     QVERIFY(plot.axisTitle(QwtPlot::yLeft).isEmpty());
     QVERIFY(!plot.axisEnabled(QwtPlot::xTop));
     QVERIFY(!plot.axisEnabled(QwtPlot::yRight));
-    QVERIFY(plot.plotLayout()->alignCanvasToScale(QwtPlot::xBottom));
+    QVERIFY(compat::alignsCanvasToScales(*plot.plotLayout()));
     QCOMPARE(plot.itemList().size(), 2);
 }
 
@@ -298,16 +304,32 @@ void UpdatablePlotTest::fillsTheCurveTranslucently()
              QPen(QBrush(translucent), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
 }
 
+void UpdatablePlotTest::repaintsAShownCanvasInItsNewColor()
+{
+    UpdatablePlot plot(nullptr);
+    plot.resize(400, 300);
+    plot.show();
+    compat::waitUntilShown(&plot);
+    const QPoint place = plot.canvas()->geometry().topLeft() + QPoint(9, 9);
+    QCOMPARE(QColor(compat::grab(&plot).toImage().pixel(place)), QColor(Qt::white));
+
+    plot.setBgColor("#ff0000");
+
+    QCOMPARE(QColor(compat::grab(&plot).toImage().pixel(place)), QColor(Qt::red));
+}
+
 void UpdatablePlotTest::takesTitlesAsPlainText()
 {
     UpdatablePlot plot(nullptr);
 
     plot.setProperty("xTitle", "<b>Time</b>");
-    plot.setProperty("yTitle", "Bytes");
+    plot.setProperty("yTitle", "<i>Bytes</i>");
 
     QCOMPARE(plot.xTitle(), QString("<b>Time</b>"));
-    QCOMPARE(plot.yTitle(), QString("Bytes"));
+    QCOMPARE(plot.yTitle(), QString("<i>Bytes</i>"));
     QCOMPARE(plot.axisTitle(QwtPlot::xBottom), QwtText("<b>Time</b>", QwtText::PlainText));
+    QCOMPARE(plot.axisTitle(QwtPlot::yLeft).textSize(QFont()),
+             QwtText("<i>Bytes</i>", QwtText::PlainText).textSize(QFont()));
     // Plain text is as high as its letters; rich text would take a document's margins.
     QCOMPARE(plot.axisTitle(QwtPlot::xBottom).textSize(QFont()),
              QwtText("<b>Time</b>", QwtText::PlainText).textSize(QFont()));
@@ -317,6 +339,7 @@ void UpdatablePlotTest::addsASampleAtTheCurrentSecond()
 {
     UpdatablePlot plot(nullptr);
     setSecond(42);
+    refuseMessage("Invalid value.");
 
     plot.updateData(2048);
 

@@ -6,6 +6,23 @@
 #include <QAbstractItemModel>
 #include <QWidget>
 
+namespace {
+
+/// Remembers an editor's cell and goes with the editor.
+class CellTag : public QObject
+{
+public:
+    CellTag(QWidget *editor, const QModelIndex &index)
+        : QObject(editor)
+        , cell(index)
+    {
+    }
+
+    const QPersistentModelIndex cell;
+};
+
+} // namespace
+
 namespace CellEditor {
 
 void dress(QWidget *editor, const char *descriptionPrefix, const QModelIndex &index)
@@ -13,6 +30,17 @@ void dress(QWidget *editor, const char *descriptionPrefix, const QModelIndex &in
     editor->setAccessibleDescription(QLatin1String(descriptionPrefix)
                                      + QString::number(index.column()));
     editor->setAutoFillBackground(true);
+    new CellTag(editor, index);
+}
+
+QPersistentModelIndex cellOf(const QObject *widget)
+{
+    for (const QObject *child : widget->children()) {
+        if (const CellTag *tag = dynamic_cast<const CellTag *>(child)) {
+            return tag->cell;
+        }
+    }
+    return QPersistentModelIndex();
 }
 
 void cover(QWidget *editor, const QStyleOptionViewItem &option)
@@ -23,26 +51,51 @@ void cover(QWidget *editor, const QStyleOptionViewItem &option)
 void store(const QString &text, QAbstractItemModel *model, const QModelIndex &index)
 {
     if (compat::text(model->data(index, Qt::EditRole)) != text) {
-        const Commit commit;
         model->setData(index, text, Qt::EditRole);
     }
 }
 
-int Commit::depth = 0;
+Commit *Commit::innermost = nullptr;
 
-Commit::Commit()
+Commit::Commit(const QObject *committingDelegate, const QObject *committedEditor)
+    : outer(innermost)
+    , delegate(committingDelegate)
+    , editor(committedEditor)
 {
-    ++depth;
+    innermost = this;
 }
 
 Commit::~Commit()
 {
-    --depth;
+    innermost = outer;
+    for (const std::function<void()> &action : actions) {
+        action();
+    }
 }
 
-bool Commit::isUnderWay()
+bool Commit::isUnderWay(const QObject *participant)
 {
-    return depth > 0;
+    return outermostOf(participant) != nullptr;
+}
+
+void Commit::whenDone(const QObject *participant, const std::function<void()> &action)
+{
+    if (Commit *commit = outermostOf(participant)) {
+        commit->actions.push_back(action);
+    } else {
+        action();
+    }
+}
+
+Commit *Commit::outermostOf(const QObject *participant)
+{
+    Commit *outermost = nullptr;
+    for (Commit *commit = innermost; commit; commit = commit->outer) {
+        if (commit->delegate == participant || commit->editor == participant) {
+            outermost = commit;
+        }
+    }
+    return outermost;
 }
 
 } // namespace CellEditor

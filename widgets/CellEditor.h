@@ -2,10 +2,13 @@
 #ifndef TESSALINE_CELLEDITOR_H
 #define TESSALINE_CELLEDITOR_H
 
+#include <QPersistentModelIndex>
 #include <QStyleOptionViewItem>
 
+#include <functional>
+#include <vector>
+
 class QAbstractItemModel;
-class QModelIndex;
 class QString;
 class QWidget;
 
@@ -16,26 +19,41 @@ namespace CellEditor {
 /// cell's column, and it paints its own background, so that the cell does not show through.
 void dress(QWidget *editor, const char *descriptionPrefix, const QModelIndex &index);
 
+/// The cell that a widget was dressed to edit; invalid for other widgets and when the cell is gone.
+QPersistentModelIndex cellOf(const QObject *widget);
+
 /// Makes the editor cover its whole cell.
 void cover(QWidget *editor, const QStyleOptionViewItem &option);
 
 /// Writes `text` under Qt::EditRole unless the cell holds just that text.
 void store(const QString &text, QAbstractItemModel *model, const QModelIndex &index);
 
-/// Says for its lifetime that a delegate is writing into the model. A slot of the application that
-/// answers such a write may replace the delegates; they are in use until the event loop turns.
+/// Says for its lifetime that a delegate takes an editor's value into the model. A slot of the
+/// application that answers the write may replace the delegates or open a dialog; Qt goes on to use
+/// this delegate and this editor when it returns.
 class Commit
 {
     Q_DISABLE_COPY(Commit)
 
 public:
-    Commit();
+    Commit(const QObject *committingDelegate, const QObject *committedEditor);
     ~Commit();
 
-    static bool isUnderWay();
+    /// Whether a delegate or an editor takes part in a commit.
+    static bool isUnderWay(const QObject *participant);
+
+    /// Runs `action` when a delegate or an editor takes part in no commit any more: at once, if so.
+    static void whenDone(const QObject *participant, const std::function<void()> &action);
 
 private:
-    static int depth;
+    static Commit *outermostOf(const QObject *participant);
+
+    static Commit *innermost;
+
+    Commit *const outer;
+    const QObject *const delegate;
+    const QObject *const editor;
+    std::vector<std::function<void()>> actions;
 };
 
 } // namespace CellEditor

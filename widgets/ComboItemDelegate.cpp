@@ -42,6 +42,7 @@ void ComboItemDelegate::setEditorData(QWidget *editor, const QModelIndex &index)
 void ComboItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *itemModel,
                                      const QModelIndex &index) const
 {
+    const CellEditor::Commit commit(this, editor);
     const QComboBox *box = qobject_cast<QComboBox *>(editor);
     if (box && box->currentIndex() >= 0) {
         CellEditor::store(box->currentText(), itemModel, index);

@@ -30,6 +30,7 @@ void EditComboItemDelegate::setEditorData(QWidget *editor, const QModelIndex &in
 void EditComboItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *itemModel,
                                          const QModelIndex &index) const
 {
+    const CellEditor::Commit commit(this, editor);
     if (const QComboBox *box = qobject_cast<QComboBox *>(editor)) {
         CellEditor::store(box->currentText(), itemModel, index);
     }

@@ -30,6 +30,7 @@ void EditItemDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
 void EditItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *itemModel,
                                     const QModelIndex &index) const
 {
+    const CellEditor::Commit commit(this, editor);
     if (const QLineEdit *field = qobject_cast<QLineEdit *>(editor)) {
         CellEditor::store(field->text(), itemModel, index);
     }

@@ -104,18 +104,41 @@ void EditableTableView::setHorizontalHeaderClickable(bool clickable)
 // written by whichever delegate follows: a secret as plain text.
 void EditableTableView::finishEditing()
 {
-    const QModelIndex cell = currentIndex();
-    QItemDelegate *delegate = delegates.value(cell.column());
-    QPointer<QWidget> editor = indexWidget(cell);
-    if (!delegate || !editor || itemDelegateForColumn(cell.column()) != delegate) {
-        return;
+    const QObjectList children = viewport()->children();
+    QList<QPointer<QWidget>> editors;
+    for (QObject *child : children) {
+        if (CellEditor::cellOf(child).isValid()) {
+            editors.append(static_cast<QWidget *>(child));
+        }
     }
-    if (!CellEditor::Commit::isUnderWay()) {
-        commitData(editor);
+    for (const QPointer<QWidget> &editor : editors) {
+        finishEditor(editor);
     }
-    if (editor) {
-        closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+void EditableTableView::finishEditor(const QPointer<QWidget> &editor)
+{
+    if (isOpen(editor) && !CellEditor::Commit::isUnderWay(editor)) {
+        // Not by commitData(): while another editor is committed that does nothing.
+        const QPersistentModelIndex cell = CellEditor::cellOf(editor);
+        if (const QAbstractItemDelegate *delegate = itemDelegateForColumn(cell.column())) {
+            delegate->setModelData(editor, model(), cell);
+        }
     }
+    const QPointer<EditableTableView> self(this);
+    CellEditor::Commit::whenDone(editor, [self, editor]() {
+        if (self && self->isOpen(editor)) {
+            const QPersistentModelIndex cell = CellEditor::cellOf(editor);
+            self->closeEditor(editor, QAbstractItemDelegate::NoHint);
+            self->closePersistentEditor(cell); // where it is one: closeEditor() leaves those open
+        }
+    });
+}
+
+bool EditableTableView::isOpen(const QPointer<QWidget> &editor) const
+{
+    return editor && CellEditor::cellOf(editor).isValid()
+        && indexWidget(CellEditor::cellOf(editor)) == editor;
 }
 
 void EditableTableView::discardDelegates()
@@ -128,12 +151,18 @@ void EditableTableView::discardDelegates()
         if (itemDelegateForColumn(entry.key()) == entry.value()) {
             setItemDelegateForColumn(entry.key(), nullptr);
         }
-        // Qt goes on to use a delegate after it has written into the model.
-        if (CellEditor::Commit::isUnderWay()) {
-            entry.value()->deleteLater();
-        } else {
-            delete entry.value();
-        }
+        discardDelegate(entry.value());
+    }
+}
+
+void EditableTableView::discardDelegate(QItemDelegate *delegate)
+{
+    if (CellEditor::Commit::isUnderWay(delegate)) {
+        CellEditor::Commit::whenDone(delegate, [delegate]() {
+            delegate->deleteLater();
+        });
+    } else {
+        delete delegate;
     }
 }
 

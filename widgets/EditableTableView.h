@@ -5,6 +5,7 @@
 #include "Export.h"
 
 #include <QMap>
+#include <QPointer>
 #include <QStringList>
 #include <QTableView>
 
@@ -14,8 +15,17 @@ class QItemDelegate;
 ///
 /// Each string says how the cells of one column are edited: "combobox", "editcombobox", "editbox",
 /// "passwordbox", "checkbox:Label" or "button:Caption". Keywords are matched without regard to
-/// case; any other string, the empty one included, leaves its column a plain one. All values travel
-/// through the model's Qt::EditRole as strings. Header titles come from the model.
+/// case; any other string, the empty one included, leaves its column a plain one. Header titles
+/// come from the model.
+///
+/// Values travel through the model's Qt::EditRole as strings. A check box is checked by any text
+/// and writes "1" or the empty text. A "passwordbox" writes the clear text under Qt::UserRole + 1
+/// and only a mask under Qt::DisplayRole.
+///
+/// Captions and labels are translated when they are shown, in the contexts "EditableTableView" and
+/// "CheckItemDelegate"; characters outside Latin-1 become "?". Each widget in a cell has an
+/// accessible description: "EditableTableViewButton column", "...Combo column", "...Edit column",
+/// "...Password column" or "...CheckBox column", directly followed by the column's number.
 ///
 /// Reach for it where a form needs a small table to fill in. A button is a widget of its own in
 /// each row: for very long tables a delegate that paints a button is the better choice.
@@ -50,9 +60,9 @@ public:
 
     QStringList getColumns() const;
 
-    /// Replaces all declarations. An edit in progress is committed and its editor closed; then the
-    /// old delegates are deleted and with them every binding that bindModel() made. A delegate that
-    /// the application installed itself stays. Buttons that exist stay until their rows go.
+    /// Replaces all declarations. Open editors are committed and closed, persistent ones too; then
+    /// the old delegates are deleted and with them every binding that bindModel() made. A delegate
+    /// that the application installed itself stays. Buttons that exist stay until their rows go.
     void setColumns(const QStringList &declarations);
 
     int getStretchSection() const;
@@ -112,7 +122,10 @@ private:
     int totalWidth() const;
 
     void finishEditing();
+    void finishEditor(const QPointer<QWidget> &editor);
+    bool isOpen(const QPointer<QWidget> &editor) const;
     void discardDelegates();
+    void discardDelegate(QItemDelegate *delegate);
     void declareColumn(int column, const QString &declaration);
     void addButton(int column, const QModelIndex &cell);
     QStringList rowData(const QModelIndex &cell) const;

@@ -4,6 +4,7 @@
 #include "CellButton.h"
 #include "QtCompat.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QStandardItemModel>
@@ -45,25 +46,36 @@ FileListTableView::~FileListTableView()
     delete nextButton;
 }
 
+// clazy:excludeall=connect-not-normalized (the signatures are written as the models declare them)
 void FileListTableView::setModel(QAbstractItemModel *model)
 {
     if (standardModel) {
         disconnect(standardModel,
-                   SIGNAL(pageLoaded(qint64,bool)), this, SLOT(FinishLoadingData(qint64,bool)));
+                   SIGNAL(pageLoaded(qint64, bool)), this, SLOT(FinishLoadingData(qint64, bool)));
         disconnect(standardModel, SIGNAL(dataChanged()), this, SLOT(SessionChanged()));
         disconnect(this, SIGNAL(requestItems()), standardModel, SLOT(LoadItems()));
+        // What the old model said from another thread is for the old model, and must not come late.
+        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     }
     standardModel = qobject_cast<QStandardItemModel *>(model);
     if (!model) {
         return; // on purpose without the base class: what is shown stays
     }
+    if (model != this->model()) {
+        loading = false; // what another model was asked for does not come any more
+    }
     QTableView::setModel(model);
-    loading = false; // what another model was asked for does not come any more
     horizontalHeader()->setSortIndicatorShown(false);
     setWidths(initialFirstWidth);
-    connect(model, SIGNAL(pageLoaded(qint64,bool)), SLOT(FinishLoadingData(qint64,bool)));
+    connect(model, SIGNAL(pageLoaded(qint64, bool)), SLOT(FinishLoadingData(qint64, bool)));
     connect(model, SIGNAL(dataChanged()), SLOT(SessionChanged()));
     connect(this, SIGNAL(requestItems()), model, SLOT(LoadItems()));
+    if (!standardModel) {
+        // It is shown without paging, whatever it offers: nothing would cut it off again.
+        disconnect(model, nullptr, this, SLOT(FinishLoadingData(qint64, bool)));
+        disconnect(model, nullptr, this, SLOT(SessionChanged()));
+        disconnect(this, SIGNAL(requestItems()), model, nullptr);
+    }
     AddButtons();
 }
 
@@ -186,7 +198,8 @@ void FileListTableView::AdjustColumnswidth()
 void FileListTableView::resizeEvent(QResizeEvent *event)
 {
     AdjustColumnswidth();
-    QWidget::resizeEvent(event); // on purpose not the item view's
+    // On purpose not the item view's. NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    QWidget::resizeEvent(event);
 }
 
 void FileListTableView::createButton(const QString &text)

@@ -14,11 +14,13 @@ class QStandardItemModel;
 ///
 /// While there is more, the last row holds a button, "Next >>", that asks the model for the next
 /// page; it reads "loading..." until the page has come. The first of the five columns takes the
-/// width that the others, which are fixed, leave over. A click on a header sorts.
+/// width that the others, which are fixed, leave over; in a view of less than 316 pixels nothing is
+/// left for it and the button. A click on a header sorts.
 ///
-/// The model is a QStandardItemModel with
-///  - a slot LoadItems(), which inserts the rows of one page before the last row, best all at once,
-///    and then emits pageLoaded() once, at once or later, from any thread;
+/// The model is a QStandardItemModel that has its columns before it is set, and
+///  - a slot LoadItems(), which makes it insert the rows of one page before the last row, best all
+///    at once, and then emit pageLoaded() once, at once or later; the rows in the thread of the
+///    view, the signal from any;
 ///  - a signal pageLoaded(qint64 count, bool completed), `completed` with the last page;
 ///  - a signal dataChanged() without parameters, which makes the list start anew.
 ///
@@ -53,7 +55,7 @@ public Q_SLOTS:
     /// with the button goes.
     void FinishLoadingData(qint64 count, bool completed);
 
-    /// Removes all rows and asks for the first page.
+    /// Removes all rows and asks for the first page; if one is on its way, that is the first.
     void SessionChanged();
 
     /// Hides the sort arrow. The sorting itself is QTableView's.

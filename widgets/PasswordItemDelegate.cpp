@@ -52,7 +52,7 @@ void PasswordItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *ite
 
     // A slot that answers the first write may remove the row, or the model.
     const QPersistentModelIndex cell(index);
-    const CellEditor::Commit commit;
+    const CellEditor::Commit commit(this, editor);
     if (changedByUser) {
         itemModel->setData(index, clearText, clearTextRole);
     }

@@ -7,7 +7,7 @@
 /// The time by which plots go.
 namespace PlotClock {
 
-/// When the library was loaded, in local time. The time axis of every plot counts from here.
+/// When the chart's code was loaded, in local time. The time axis of every plot counts from here.
 extern const QDateTime startTime;
 
 /// Tells the time of day: QDateTime::currentDateTime(), unless a test puts its own clock here.

@@ -3,7 +3,6 @@
 
 #include "QtCompat.h"
 
-#include <cmath>
 #include <limits>
 
 namespace {
@@ -63,7 +62,7 @@ qint64 maximum(const QMap<int, qint64> &samples)
 qint64 sizeStep(qint64 maximum)
 {
     qint64 unit = 1;
-    for (double rest = static_cast<double>(maximum); rest >= 1024.0; rest /= 1024.0) {
+    for (qint64 rest = maximum; rest >= 1024; rest /= 1024) {
         unit *= 1024;
     }
     return maximum / unit / 5 * unit;

@@ -33,11 +33,30 @@ inline QColor colorOf(const QBrush &brush)
     return brush.color();
 }
 
+template <class Canvas>
+auto forgetPainting(Canvas *canvas, int) -> decltype(canvas->invalidateBackingStore(), void())
+{
+    canvas->invalidateBackingStore(); // Qwt 6
+}
+
+template <class Canvas> void forgetPainting(Canvas *canvas, long)
+{
+    canvas->invalidatePaintCache(); // Qwt 5
+}
+
 } // namespace detail
 
 template <class Curve> void setPoints(Curve *curve, const QPolygonF &points)
 {
     detail::setPoints(curve, points, 0);
+}
+
+/// Makes a canvas paint itself anew. It keeps what it has painted, and a new background alone does
+/// not make it forget that.
+template <class Canvas> void repaintCanvas(Canvas *canvas)
+{
+    detail::forgetPainting(canvas, 0);
+    canvas->update();
 }
 
 template <class Plot> QColor canvasColor(const Plot &plot)

@@ -11,7 +11,7 @@ namespace {
 // one.
 int secondsOfDay(double value)
 {
-    return qIsFinite(value) ? static_cast<int>(std::fmod(value, 86400.0)) : 0;
+    return std::isfinite(value) ? static_cast<int>(std::fmod(value, 86400.0)) : 0;
 }
 
 } // namespace

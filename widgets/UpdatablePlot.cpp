@@ -8,6 +8,7 @@
 #include "QwtCompat.h"
 #include "TimeScaleDraw.h"
 
+#include <qwt_plot_canvas.h>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_layout.h>
 #include <qwt_scale_widget.h>
@@ -61,6 +62,9 @@ QString UpdatablePlot::bgColor() const
 void UpdatablePlot::setBgColor(const QString &text)
 {
     setCanvasBackground(compat::namedColor(text));
+    if (QwtPlotCanvas *own = qobject_cast<QwtPlotCanvas *>(canvas())) {
+        compat::repaintCanvas(own);
+    }
 }
 
 QString UpdatablePlot::curveColor() const

@@ -69,7 +69,7 @@ private:
     ByteSizeScaleDraw *sizeScaleDraw; ///< Owned by the axis.
     TimeScaleDraw *timeScaleDraw; ///< Owned by the axis.
     QwtPlotCurve curve;
-    QMap<int, qint64> samples; ///< By seconds since the library was loaded.
+    QMap<int, qint64> samples; ///< By seconds since PlotClock::startTime.
 };
 
 #endif

@@ -43,6 +43,18 @@ template <class Grid> QPen majorPen(const Grid &grid, long)
     return grid.majPen(); // Qwt 5
 }
 
+template <class Layout>
+auto alignsCanvasToScales(const Layout &layout, int)
+    -> decltype(layout.alignCanvasToScale(QwtPlot::xBottom))
+{
+    return layout.alignCanvasToScale(QwtPlot::xBottom); // Qwt 6
+}
+
+template <class Layout> bool alignsCanvasToScales(const Layout &layout, long)
+{
+    return layout.alignCanvasToScales(); // Qwt 5
+}
+
 } // namespace detail
 
 inline const QwtScaleDiv &scaleDiv(const QwtPlot &plot, int axis)
@@ -58,6 +70,11 @@ inline QPointF pointAt(const QwtPlotCurve &curve, int i)
 inline QPen majorPen(const QwtPlotGrid &grid)
 {
     return detail::majorPen(grid, 0);
+}
+
+template <class Layout> bool alignsCanvasToScales(const Layout &layout)
+{
+    return detail::alignsCanvasToScales(layout, 0);
 }
 
 } // namespace compat

@@ -3,6 +3,7 @@
 
 compat::MessageHandler TestCase::previousHandler = nullptr;
 QStringList TestCase::expected;
+QStringList TestCase::refused;
 QStringList TestCase::toleratedPrefixes;
 QStringList TestCase::unexpected;
 
@@ -25,6 +26,11 @@ void TestCase::expectMessage(const QString &message)
     expected.append(message);
 }
 
+void TestCase::refuseMessage(const QString &message)
+{
+    refused.append(message);
+}
+
 void TestCase::tolerateWarnings(const QString &prefix)
 {
     toleratedPrefixes.append(prefix);
@@ -35,6 +41,7 @@ void TestCase::init()
     // What a platform plug-in says about itself is not about the code under test.
     toleratedPrefixes = QStringList(QLatin1String("This plugin does not support"));
     expected.clear();
+    refused.clear();
     unexpected.clear();
     previousHandler = compat::installMessageReceiver(receive);
 }
@@ -51,10 +58,12 @@ void TestCase::cleanup()
 void TestCase::receive(QtMsgType type, const QString &message)
 {
     if (expected.removeOne(message)) {
+        refused.append(message); // once is enough
         return;
     }
     const bool isWarning = type == QtWarningMsg || type == QtCriticalMsg;
-    if (isWarning && !startsWithOneOf(message, toleratedPrefixes)) {
+    const bool isTolerated = startsWithOneOf(message, toleratedPrefixes);
+    if ((isWarning && !isTolerated) || refused.contains(message)) {
         unexpected.append(message);
     }
     compat::passMessage(previousHandler, type, message);

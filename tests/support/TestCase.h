@@ -18,6 +18,9 @@ protected:
     /// Announces a message of any kind, word for word.
     void expectMessage(const QString &message);
 
+    /// Fails the test if this is said, whatever its kind; warnings fail one anyway.
+    void refuseMessage(const QString &message);
+
     /// For what Qt itself says, in some versions, when it is misused on purpose.
     void tolerateWarnings(const QString &prefix);
 
@@ -30,6 +33,7 @@ private:
 
     static compat::MessageHandler previousHandler;
     static QStringList expected;
+    static QStringList refused;
     static QStringList toleratedPrefixes;
     static QStringList unexpected;
 };

@@ -57,6 +57,12 @@ inline void passMessage(MessageHandler handler, QtMsgType type, const QString &m
     }
 }
 
+/// The bytes under which a translator is asked for a source text, given in UTF-8.
+inline QByteArray sourceBytes(const char *utf8)
+{
+    return QString::fromUtf8(utf8).toLatin1();
+}
+
 inline QByteArray methodSignature(const QMetaMethod &method)
 {
     return method.signature();
@@ -123,6 +129,12 @@ inline void passMessage(MessageHandler handler, QtMsgType type, const QString &m
     if (handler) {
         handler(type, QMessageLogContext(), message);
     }
+}
+
+/// The bytes under which a translator is asked for a source text, given in UTF-8.
+inline QByteArray sourceBytes(const char *utf8)
+{
+    return utf8;
 }
 
 inline QByteArray methodSignature(const QMetaMethod &method)

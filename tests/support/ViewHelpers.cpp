@@ -8,11 +8,6 @@
 #include <QPushButton>
 #include <QTableView>
 
-QStringList split(const QString &text)
-{
-    return text.isEmpty() ? QStringList() : text.split(QLatin1Char('|'));
-}
-
 void showWindow(QWidget *window, int width, int height)
 {
     window->resize(width, height);

@@ -14,9 +14,6 @@ class QWidget;
 
 /// Turn what a view shows into short texts, and drive it as a user would.
 
-/// The list ("a", "b") from "a|b"; none from the empty text.
-QStringList split(const QString &text);
-
 /// Shows a window of this size and gives it the focus.
 void showWindow(QWidget *window, int width, int height);
 
