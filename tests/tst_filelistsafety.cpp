@@ -12,23 +12,6 @@
 
 namespace {
 
-void goThroughEvents()
-{
-    QCoreApplication::processEvents();
-    compat::deliverDeferredDeletes();
-}
-
-/// What a user may do to any list at any time.
-void use(FileListTableView *view)
-{
-    view->resize(view->width() + 30, view->height());
-    goThroughEvents();
-    QTest::mouseClick(view->viewport(), Qt::LeftButton);
-    QTest::mouseClick(view->horizontalHeader()->viewport(), Qt::LeftButton);
-    compat::grab(view);
-    goThroughEvents();
-}
-
 /// Delivers a page, or another session, from a thread of its own.
 class Loader : public QThread
 {

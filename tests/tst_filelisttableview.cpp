@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "CellButton.h"
-#include "FileListTableView.h"
-#include "PagedModel.h"
+#include "ShownList.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
@@ -9,71 +8,6 @@
 #include <QScrollBar>
 
 namespace {
-
-/// Counts how often all rows are laid out.
-class NotingView : public FileListTableView
-{
-public:
-    void doItemsLayout() override
-    {
-        ++layouts;
-        FileListTableView::doItemsLayout();
-    }
-
-    int layouts = 0;
-};
-
-/// A shown list of 600 x 400 pixels.
-struct List
-{
-    List()
-    {
-        view.setModel(&model);
-        showWindow(&view, 600, 400);
-    }
-
-    CellButton *button() const
-    {
-        for (int row = 0; row < model.rowCount(); ++row) {
-            if (QWidget *widget = view.indexWidget(model.index(row, 0))) {
-                return dynamic_cast<CellButton *>(widget);
-            }
-        }
-        return nullptr;
-    }
-
-    /// The row and label of the button, such as "2 Next >>"; "none" without one.
-    QString paging() const
-    {
-        const CellButton *next = button();
-        return next ? QString("%1 %2").arg(next->index.row()).arg(next->text()) : QString("none");
-    }
-
-    void click() const
-    {
-        QTest::mouseClick(button(), Qt::LeftButton);
-    }
-
-    void clickHeader(int column)
-    {
-        QHeaderView *header = view.horizontalHeader();
-        const QPoint place(header->sectionViewportPosition(column)
-                               + header->sectionSize(column) / 2,
-                           header->height() / 2);
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::KeyboardModifiers(), place);
-    }
-
-    /// Has so many rows and more to come.
-    void fill(int rows)
-    {
-        view.StartLoadingData();
-        model.deliver(rows, false);
-        QCoreApplication::processEvents();
-    }
-
-    PagedModel model;
-    NotingView view;
-};
 
 QString joined(const QList<QByteArray> &names)
 {
@@ -121,16 +55,6 @@ private Q_SLOTS:
     void asksForNoSecondPageWhenTheSessionChangesWhileLoading();
     void startsAnewAfterTheLastPage();
     void acceptsAnAnswerAtOnce();
-    void placesItsColumns_data();
-    void placesItsColumns();
-    void leavesRoomForTheScrollBar();
-    void showsTheInitialWidthsUntilTheWidthChanges();
-    void adjustsTheColumnsAfterAPage();
-    void keepsAllRowsEighteenPixelsHigh();
-    void sortsByClickAndKeepsThePagingRowLast_data();
-    void sortsByClickAndKeepsThePagingRowLast();
-    void sortsByCallAndKeepsThePagingRowLast();
-    void sortsWhileAPageLoads();
     void keepsTheRowsWhenTheModelIsTakenAway();
     void cutsOffAModelThatIsReplaced();
     void givesTheSecondModelAButtonThatStays();
@@ -138,12 +62,6 @@ private Q_SLOTS:
     void leavesTheCurrentCellAloneWhenTheButtonIsClicked();
     void deletesItsButtonWithItself();
     void deletesAButtonThatNeverFoundACell();
-    void hidesASortArrowThatAnApplicationShows();
-    void leavesHeaderAndFrameOutOfAccount();
-    void leavesRoomForTheScrollBarOnlyWhenTheRowsExceedTheView();
-    void adjustsTheColumnsWithoutThePagingRow();
-    void leavesAResizeToThePlainWidgetHandler();
-    void laysOutAPageOnce();
     void keepsTheNewModelsRowsFromTheOldModelsSession();
     void keepsARequestUnderWayWhenTheSameModelIsSetAgain();
 };
@@ -367,135 +285,6 @@ void FileListTableViewTest::acceptsAnAnswerAtOnce()
     QCOMPARE(list.model.rowCount(), 4);
 }
 
-void FileListTableViewTest::placesItsColumns_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<QString>("widths");
-
-    QTest::newRow("600") << 600 << "285,120,70,55,65";
-    QTest::newRow("800") << 800 << "485,120,70,55,65";
-    QTest::newRow("first column vanishes") << 315 << "0,120,70,55,65";
-    QTest::newRow("narrower than the fixed columns") << 200 << "0,120,70,55,65";
-    QTest::newRow("one pixel left") << 316 << "1,120,70,55,65";
-}
-
-void FileListTableViewTest::placesItsColumns()
-{
-    QFETCH(int, width);
-    List list;
-    list.view.resize(450, 400);
-
-    list.view.resize(width, 400);
-    QCoreApplication::processEvents();
-
-    QTEST(widths(list.view), "widths");
-}
-
-void FileListTableViewTest::leavesRoomForTheScrollBar()
-{
-    List list;
-
-    list.fill(22); // with the paging row 23 x 18 = 414 > 400
-    list.fill(10);
-
-    const int bar = list.view.verticalScrollBar()->width();
-    QVERIFY(list.view.verticalScrollBar()->isVisible());
-    QCOMPARE(list.view.horizontalHeader()->sectionSize(0), 600 - bar - 315);
-}
-
-void FileListTableViewTest::showsTheInitialWidthsUntilTheWidthChanges()
-{
-    List list;
-    PagedModel second;
-
-    list.view.setModel(&second);
-
-    QCOMPARE(widths(list.view), QString("320,120,70,55,65"));
-    list.view.StartLoadingData();
-    second.deliver(1, false); // adjusts, but to a width that it knows already
-    QCOMPARE(widths(list.view), QString("320,120,70,55,65"));
-    list.view.resize(601, 400);
-    QCoreApplication::processEvents();
-    QCOMPARE(widths(list.view), QString("286,120,70,55,65"));
-}
-
-void FileListTableViewTest::adjustsTheColumnsAfterAPage()
-{
-    PagedModel model;
-    FileListTableView view;
-    view.resize(600, 400);
-    view.setModel(&model);
-    QCOMPARE(widths(view), QString("320,120,70,55,65"));
-
-    view.FinishLoadingData(0, false);
-
-    QCOMPARE(widths(view), QString("285,120,70,55,65"));
-}
-
-void FileListTableViewTest::keepsAllRowsEighteenPixelsHigh()
-{
-    List list;
-
-    list.fill(3);
-
-    for (int row = 0; row < 4; ++row) {
-        QCOMPARE(list.view.verticalHeader()->sectionSize(row), 18);
-    }
-}
-
-void FileListTableViewTest::sortsByClickAndKeepsThePagingRowLast_data()
-{
-    QTest::addColumn<int>("clicks");
-    QTest::addColumn<QString>("order");
-
-    QTest::newRow("first click ascends") << 1 << "file0,file1,file2,";
-    QTest::newRow("second click descends") << 2 << "file2,file1,file0,";
-    QTest::newRow("third click ascends") << 3 << "file0,file1,file2,";
-}
-
-void FileListTableViewTest::sortsByClickAndKeepsThePagingRowLast()
-{
-    QFETCH(int, clicks);
-    List list;
-    list.fill(3);
-
-    for (int i = 0; i < clicks; ++i) {
-        list.clickHeader(0);
-        QVERIFY(!list.view.horizontalHeader()->isSortIndicatorShown());
-    }
-
-    QTEST(texts(list.model, 0), "order");
-    QCOMPARE(list.paging(), QString("3 Next >>"));
-}
-
-void FileListTableViewTest::sortsByCallAndKeepsThePagingRowLast()
-{
-    List list;
-    list.fill(3);
-
-    list.view.sortByColumn(0, Qt::DescendingOrder);
-
-    QCOMPARE(texts(list.model, 0), QString("file2,file1,file0,"));
-    QCOMPARE(list.paging(), QString("3 Next >>"));
-    QVERIFY(!list.view.horizontalHeader()->isSortIndicatorShown());
-    QCoreApplication::processEvents();
-    QCOMPARE(list.button()->geometry(), list.view.visualRect(list.model.index(3, 0)));
-}
-
-void FileListTableViewTest::sortsWhileAPageLoads()
-{
-    List list;
-    list.fill(2);
-    list.click();
-
-    list.clickHeader(0);
-    list.clickHeader(0);
-    list.model.deliver(1, false);
-
-    QCOMPARE(texts(list.model, 0), QString("file1,file0,file2,"));
-    QCOMPARE(list.paging(), QString("3 Next >>"));
-}
-
 void FileListTableViewTest::keepsTheRowsWhenTheModelIsTakenAway()
 {
     List list;
@@ -600,85 +389,6 @@ void FileListTableViewTest::deletesAButtonThatNeverFoundACell()
     delete view;
 
     QCOMPARE(int(QApplication::topLevelWidgets().size()), before);
-}
-
-void FileListTableViewTest::hidesASortArrowThatAnApplicationShows()
-{
-    List list;
-    list.fill(3);
-    list.view.horizontalHeader()->setSortIndicatorShown(true);
-
-    list.clickHeader(0);
-
-    QVERIFY(!list.view.horizontalHeader()->isSortIndicatorShown());
-}
-
-void FileListTableViewTest::leavesHeaderAndFrameOutOfAccount()
-{
-    List list;
-
-    list.fill(21); // with the paging row 22 x 18 = 396: more than the viewport, less than the view
-
-    QTRY_VERIFY(list.view.verticalScrollBar()->isVisible());
-    QCOMPARE(list.view.horizontalHeader()->sectionSize(0), 285);
-}
-
-void FileListTableViewTest::leavesRoomForTheScrollBarOnlyWhenTheRowsExceedTheView()
-{
-    List list;
-    list.fill(21);
-    list.view.resize(601, 22 * 18);
-    QCoreApplication::processEvents();
-
-    list.view.FinishLoadingData(0, false);
-
-    QCOMPARE(list.view.horizontalHeader()->sectionSize(0), 286);
-}
-
-void FileListTableViewTest::adjustsTheColumnsWithoutThePagingRow()
-{
-    List list;
-    list.fill(22); // 23 rows: more than the view
-    QVERIFY(list.view.horizontalHeader()->sectionSize(0) < 285);
-
-    list.model.announce(0, true); // 22 rows: less
-
-    QCOMPARE(list.view.horizontalHeader()->sectionSize(0), 285);
-}
-
-void FileListTableViewTest::leavesAResizeToThePlainWidgetHandler()
-{
-    PagedModel model;
-    QWidget window;
-    FileListTableView *view = new FileListTableView;
-    view->setParent(&window);
-    view->setModel(&model);
-    view->resize(600, 300);
-    showWindow(&window, 900, 400);
-    QCoreApplication::processEvents();
-    const int before = view->horizontalHeader()->width();
-
-    view->resize(700, 300);
-
-    QCOMPARE(view->horizontalHeader()->width(), before); // the item view has not reacted
-    QTRY_COMPARE(view->horizontalHeader()->width(), view->viewport()->width());
-}
-
-void FileListTableViewTest::laysOutAPageOnce()
-{
-    List list;
-    list.fill(3);
-    list.view.StartLoadingData();
-    QCoreApplication::processEvents();
-    list.view.layouts = 0;
-
-    for (int row = 0; row < 20; ++row) {
-        list.model.insertPage(1);
-    }
-    list.model.announce(20, false);
-    QCoreApplication::processEvents();
-
-    QVERIFY(list.view.layouts <= 2);
 }
 
 void FileListTableViewTest::keepsTheNewModelsRowsFromTheOldModelsSession()

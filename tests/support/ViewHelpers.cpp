@@ -76,3 +76,21 @@ void commitEditor(QWidget *editor)
     QCoreApplication::processEvents(); // the delegate commits by a queued call
     compat::deliverDeferredDeletes();
 }
+
+void goThroughEvents()
+{
+    QCoreApplication::processEvents();
+    compat::deliverDeferredDeletes();
+}
+
+void use(QTableView *view)
+{
+    view->resize(view->width() + 30, view->height());
+    goThroughEvents();
+    QTest::keyClick(view, Qt::Key_Down);
+    QTest::keyClick(view, Qt::Key_F2);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton);
+    QTest::mouseClick(view->horizontalHeader()->viewport(), Qt::LeftButton);
+    compat::grab(view);
+    goThroughEvents();
+}

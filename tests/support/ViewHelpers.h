@@ -35,6 +35,12 @@ int buttonCount(const QAbstractItemView &view);
 /// Opens a cell's editor with the edit key and returns it; null if none opens.
 QWidget *openEditor(QTableView *view, const QModelIndex &index);
 
+/// Handles what is posted, deferred deletes included.
+void goThroughEvents();
+
+/// Does to a view what a user may do at any time: resizes it, presses keys, clicks, looks at it.
+void use(QTableView *view);
+
 /// Ends an edit with the Return key and waits until the view has taken the value.
 void commitEditor(QWidget *editor);
 

@@ -1,0 +1,345 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "EditableTableView.h"
+#include "RecordingModel.h"
+#include "TestCase.h"
+#include "ViewHelpers.h"
+
+#include <QAbstractItemDelegate>
+#include <QEventLoop>
+#include <QLineEdit>
+#include <QPointer>
+#include <QTimer>
+
+namespace {
+
+QStringList declarations()
+{
+    return QStringList() << "editbox"
+                         << "button:Go"
+                         << "passwordbox";
+}
+
+/// A model that announces each write, even of what it holds already, as many do.
+class TalkativeModel : public RecordingModel
+{
+public:
+    TalkativeModel()
+        : RecordingModel(3, 3)
+    {
+    }
+
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override
+    {
+        const bool done = RecordingModel::setData(index, value, role);
+        emit dataChanged(index, index);
+        return done;
+    }
+};
+
+/// A shown table with an editor open in its first cell, into which "typed" was typed.
+struct TableInEdit
+{
+    explicit TableInEdit(int column = 0)
+        : model(new TalkativeModel)
+    {
+        view.setColumns(declarations());
+        view.setModel(model);
+        showWindow(&view, 400, 200);
+        editor = openEditor(&view, model->index(0, column));
+        QTest::keyClicks(editor, "typed");
+        model->writes.clear();
+    }
+
+    ~TableInEdit()
+    {
+        delete model;
+    }
+
+    QPointer<RecordingModel> model;
+    EditableTableView view;
+    QPointer<QWidget> editor;
+};
+
+} // namespace
+
+/// What happens to an open editor, and to what was typed, when things change under it.
+class EditorSafetyTest : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void survivesAModelThatDiesDuringAnEdit();
+    void commitsAnOpenEditorWhenColumnsAreDeclaredAnew();
+    void keepsAnUnfinishedSecretOutOfTheTextWhenColumnsAreDeclaredAnew();
+    void keepsASecretTypedAwayFromTheCurrentCellOutOfTheText();
+    void commitsAndClosesAPersistentEditor();
+    void leavesAnApplicationsOwnWidgetAlone();
+    void leavesACellAloneWhoseEditorWasNotTouched();
+    void commitsAnEditorOfAnotherTable();
+    void commitsAnotherEditorOfATableThatIsCommitting();
+    void keepsADelegateInUseThroughANestedEventLoop();
+    void survivesColumnsDeclaredAnewDuringACommit_data();
+    void survivesColumnsDeclaredAnewDuringACommit();
+    void survivesAModelReplacedDuringAnEdit();
+    void survivesARowRemovedDuringAnEdit();
+
+public Q_SLOTS:
+    void declareColumnsAnew();
+    void declareColumnsAnewInALoop();
+
+private:
+    QPointer<EditableTableView> actedOn;
+    QPointer<QObject> delegateInUse;
+    bool wasAliveAfterTheLoop = false;
+};
+
+void EditorSafetyTest::declareColumnsAnew()
+{
+    actedOn->setColumns(declarations());
+}
+
+void EditorSafetyTest::declareColumnsAnewInALoop()
+{
+    if (!delegateInUse || wasAliveAfterTheLoop) {
+        return;
+    }
+    QEventLoop loop;
+    QTimer::singleShot(0, this, SLOT(declareColumnsAnew()));
+    QTimer::singleShot(20, &loop, SLOT(quit()));
+    loop.exec();
+    compat::deliverDeferredDeletes();
+    wasAliveAfterTheLoop = !delegateInUse.isNull();
+}
+
+void EditorSafetyTest::survivesAModelThatDiesDuringAnEdit()
+{
+    tolerateWarnings("QAbstractItemView::");
+    tolerateWarnings("QItemSelectionModel: Selecting when no model");
+    TableInEdit table;
+    QVERIFY(table.editor);
+
+    delete table.model;
+    if (table.editor) {
+        QTest::keyClick(table.editor, Qt::Key_Return);
+    }
+    table.view.resize(450, 200);
+    goThroughEvents();
+    compat::grab(&table.view);
+
+    QVERIFY(!table.view.model());
+    QVERIFY(!table.editor);
+}
+
+void EditorSafetyTest::commitsAnOpenEditorWhenColumnsAreDeclaredAnew()
+{
+    TableInEdit table;
+    QVERIFY(table.editor);
+
+    table.view.setColumns(QStringList() << "checkbox");
+    goThroughEvents();
+
+    QVERIFY(!table.editor);
+    QCOMPARE(table.model->writes, QStringList() << "edit typed");
+    use(&table.view);
+}
+
+void EditorSafetyTest::keepsAnUnfinishedSecretOutOfTheTextWhenColumnsAreDeclaredAnew()
+{
+    TableInEdit table(2);
+    QVERIFY(table.editor);
+
+    table.view.setColumns(QStringList());
+    table.view.setCurrentIndex(table.model->index(1, 0));
+    goThroughEvents();
+
+    QCOMPARE(table.model->index(0, 2).data(Qt::UserRole + 1).toString(), QString("typed"));
+    QCOMPARE(table.model->writes.filter("typed"), QStringList() << "secret typed");
+}
+
+void EditorSafetyTest::keepsASecretTypedAwayFromTheCurrentCellOutOfTheText()
+{
+    RecordingModel model(3, 3);
+    EditableTableView view;
+    view.setColumns(declarations());
+    view.setModel(&model);
+    showWindow(&view, 400, 200);
+    view.setCurrentIndex(model.index(2, 0));
+    view.edit(model.index(0, 2));
+    QWidget *field = view.indexWidget(model.index(0, 2));
+    QVERIFY(field);
+    QTest::keyClicks(field, "typed");
+
+    view.setColumns(QStringList() << "editbox"
+                                  << "button"
+                                  << "editbox");
+    view.setCurrentIndex(model.index(0, 2));
+    view.setCurrentIndex(model.index(1, 0));
+    goThroughEvents();
+
+    QCOMPARE(model.index(0, 2).data(Qt::UserRole + 1).toString(), QString("typed"));
+    QCOMPARE(model.writes.filter("typed"), QStringList() << "secret typed");
+}
+
+void EditorSafetyTest::commitsAndClosesAPersistentEditor()
+{
+    RecordingModel model(3, 3);
+    EditableTableView view;
+    view.setColumns(declarations());
+    view.setModel(&model);
+    showWindow(&view, 400, 200);
+    view.openPersistentEditor(model.index(1, 0));
+    const QPointer<QWidget> field = view.indexWidget(model.index(1, 0));
+    QVERIFY(field);
+    QTest::keyClicks(field, "typed");
+
+    view.setColumns(QStringList() << "checkbox");
+    goThroughEvents();
+
+    QVERIFY(!field);
+    QCOMPARE(model.writes, QStringList() << "edit typed");
+}
+
+void EditorSafetyTest::leavesAnApplicationsOwnWidgetAlone()
+{
+    RecordingModel model(3, 3);
+    EditableTableView view;
+    view.setColumns(declarations());
+    view.setModel(&model);
+    QLineEdit *own = new QLineEdit("mine");
+    view.setIndexWidget(model.index(0, 0), own);
+    view.setCurrentIndex(model.index(0, 0));
+
+    view.setColumns(declarations());
+    goThroughEvents();
+
+    QCOMPARE(view.indexWidget(model.index(0, 0)), static_cast<QWidget *>(own));
+    QCOMPARE(model.writes, QStringList());
+}
+
+void EditorSafetyTest::leavesACellAloneWhoseEditorWasNotTouched()
+{
+    RecordingModel model(1, 3);
+    model.put(0, 0, 7);
+    EditableTableView view;
+    view.setColumns(declarations());
+    view.setModel(&model);
+    showWindow(&view, 400, 200);
+    const QPointer<QWidget> field = openEditor(&view, model.index(0, 0));
+    QVERIFY(field);
+
+    view.setColumns(declarations());
+    goThroughEvents();
+
+    QVERIFY(!field);
+    QCOMPARE(model.writes, QStringList());
+    QCOMPARE(model.index(0, 0).data().toInt(), 7);
+}
+
+void EditorSafetyTest::commitsAnEditorOfAnotherTable()
+{
+    RecordingModel otherModel(1, 3);
+    EditableTableView other;
+    other.setColumns(declarations());
+    other.setModel(&otherModel);
+    other.openPersistentEditor(otherModel.index(0, 0));
+    QTest::keyClicks(other.indexWidget(otherModel.index(0, 0)), "other");
+    TableInEdit table;
+    QVERIFY(table.editor);
+    actedOn = &other;
+    connect(table.model, SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(declareColumnsAnew()));
+
+    QTest::keyClick(table.editor, Qt::Key_Return);
+    goThroughEvents();
+
+    QCOMPARE(otherModel.index(0, 0).data().toString(), QString("other"));
+    QCOMPARE(table.model->index(0, 0).data().toString(), QString("typed"));
+}
+
+void EditorSafetyTest::commitsAnotherEditorOfATableThatIsCommitting()
+{
+    TableInEdit table;
+    QVERIFY(table.editor);
+    table.view.openPersistentEditor(table.model->index(1, 0));
+    QTest::keyClicks(table.view.indexWidget(table.model->index(1, 0)), "other");
+    actedOn = &table.view;
+    connect(table.model, SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(declareColumnsAnew()));
+
+    QTest::keyClick(table.editor, Qt::Key_Return);
+    goThroughEvents();
+
+    QCOMPARE(texts(*table.model, 0), QString("typed,other,"));
+}
+
+void EditorSafetyTest::keepsADelegateInUseThroughANestedEventLoop()
+{
+    TableInEdit table;
+    QVERIFY(table.editor);
+    actedOn = &table.view;
+    delegateInUse = table.view.itemDelegateForColumn(0);
+    connect(table.model,
+            SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(declareColumnsAnewInALoop()));
+
+    QTest::keyClick(table.editor, Qt::Key_Return);
+    goThroughEvents();
+
+    QVERIFY(wasAliveAfterTheLoop);
+    QVERIFY(delegateInUse.isNull()); // gone when nobody uses it any more
+}
+
+void EditorSafetyTest::survivesColumnsDeclaredAnewDuringACommit_data()
+{
+    QTest::addColumn<int>("column");
+
+    QTest::newRow("edit") << 0;
+    QTest::newRow("password") << 2;
+}
+
+void EditorSafetyTest::survivesColumnsDeclaredAnewDuringACommit()
+{
+    QFETCH(int, column);
+    TableInEdit table(column);
+    QVERIFY(table.editor);
+    actedOn = &table.view;
+    const QPointer<QObject> old = table.view.itemDelegateForColumn(column);
+    connect(table.model, SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(declareColumnsAnew()));
+
+    QTest::keyClick(table.editor, Qt::Key_Return);
+    goThroughEvents();
+    use(&table.view);
+
+    QVERIFY(!table.editor);
+    QVERIFY(old.isNull());
+    const int role = column == 0 ? int(Qt::EditRole) : Qt::UserRole + 1;
+    QCOMPARE(table.model->index(0, column).data(role).toString(), QString("typed"));
+}
+
+void EditorSafetyTest::survivesAModelReplacedDuringAnEdit()
+{
+    tolerateWarnings("QAbstractItemView::");
+    TableInEdit table;
+    QVERIFY(table.editor);
+    QStandardItemModel other(2, 3);
+
+    table.view.setModel(&other);
+    use(&table.view);
+
+    QVERIFY(!table.editor);
+    QCOMPARE(buttonMarks(table.view, 1), QString("xx"));
+    table.view.setModel(nullptr);
+}
+
+void EditorSafetyTest::survivesARowRemovedDuringAnEdit()
+{
+    tolerateWarnings("QAbstractItemView::");
+    TableInEdit table;
+    QVERIFY(table.editor);
+
+    table.model->removeRow(0);
+    use(&table.view);
+
+    QVERIFY(!table.editor);
+    QCOMPARE(buttonMarks(table.view, 1), QString("xx"));
+}
+
+TESSALINE_TEST_MAIN(EditorSafetyTest)
+#include "tst_editorsafety.moc"
