@@ -31,6 +31,13 @@
 #include <memory>
 #include <utility>
 
+#ifdef BENCH_QTCHARTS
+// Qt 5 has the classes in there, Qt 6 has no such namespace.
+namespace QtCharts {
+} // namespace QtCharts
+using namespace QtCharts;
+#endif
+
 namespace {
 
 const int shownSamples = 1802;
@@ -246,10 +253,6 @@ private:
 #endif
 
 #ifdef BENCH_QTCHARTS
-
-#if QT_VERSION < 0x060000
-using namespace QtCharts;
-#endif
 
 class ChartsView : public QChartView
 {
