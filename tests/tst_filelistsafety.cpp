@@ -45,6 +45,18 @@ QString labelOfButton(const FileListTableView &view)
 
 } // namespace
 
+/// A list that a call can delete.
+class SelfDeletingList : public FileListTableView
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void vanish()
+    {
+        delete this;
+    }
+};
+
 /// Models that break the contract, and calls at the wrong time: nothing crashes.
 class FileListSafetyTest : public TestCase
 {
@@ -67,6 +79,7 @@ private Q_SLOTS:
     void takesASessionFromAnotherThread();
     void sparesTheNextModelFromALatePageOrSession_data();
     void sparesTheNextModelFromALatePageOrSession();
+    void survivesItsDeletionByACallThatWasQueued();
     void ignoresRowsOfAChild();
 
 public Q_SLOTS:
@@ -326,6 +339,21 @@ void FileListSafetyTest::sparesTheNextModelFromALatePageOrSession()
     QCOMPARE(second.rowCount(), 4);
     QCOMPARE(second.requests, 0);
     QCOMPARE(labelOfButton(view), QString()); // nothing was asked for, nothing has come
+}
+
+void FileListSafetyTest::survivesItsDeletionByACallThatWasQueued()
+{
+    PagedModel model;
+    PagedModel second;
+    SelfDeletingList *view = new SelfDeletingList;
+    const QPointer<SelfDeletingList> guard(view);
+    view->setModel(&model);
+    QMetaObject::invokeMethod(view, "vanish", Qt::QueuedConnection);
+
+    view->setModel(&second);
+
+    QVERIFY(!guard);
+    QCOMPARE(second.rowCount(), 0);
 }
 
 void FileListSafetyTest::ignoresRowsOfAChild()

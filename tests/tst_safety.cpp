@@ -5,9 +5,7 @@
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
-#include <QAbstractItemDelegate>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QPointer>
 #include <QStandardItemModel>
 #include <QStringListModel>

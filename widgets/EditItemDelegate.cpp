@@ -31,7 +31,9 @@ void EditItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *itemMod
                                     const QModelIndex &index) const
 {
     const CellEditor::Commit commit(this, editor);
-    if (const QLineEdit *field = qobject_cast<QLineEdit *>(editor)) {
+    const QLineEdit *field = qobject_cast<QLineEdit *>(editor);
+    // A password editor gets here when columns move below it; what it holds is no plain text.
+    if (field && field->echoMode() == QLineEdit::Normal) {
         CellEditor::store(field->text(), itemModel, index);
     }
 }

@@ -121,7 +121,7 @@ void EditableTableView::finishEditor(const QPointer<QWidget> &editor)
     if (isOpen(editor) && !CellEditor::Commit::isUnderWay(editor)) {
         // Not by commitData(): while another editor is committed that does nothing.
         const QPersistentModelIndex cell = CellEditor::cellOf(editor);
-        if (const QAbstractItemDelegate *delegate = itemDelegateForColumn(cell.column())) {
+        if (const QItemDelegate *delegate = delegates.value(cell.column())) {
             delegate->setModelData(editor, model(), cell);
         }
     }

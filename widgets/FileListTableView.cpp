@@ -55,7 +55,11 @@ void FileListTableView::setModel(QAbstractItemModel *model)
         disconnect(standardModel, SIGNAL(dataChanged()), this, SLOT(SessionChanged()));
         disconnect(this, SIGNAL(requestItems()), standardModel, SLOT(LoadItems()));
         // What the old model said from another thread is for the old model, and must not come late.
+        const QPointer<FileListTableView> self(this);
         QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+        if (!self) {
+            return; // one of the calls was to delete it
+        }
     }
     standardModel = qobject_cast<QStandardItemModel *>(model);
     if (!model) {
@@ -125,7 +129,7 @@ void FileListTableView::StartLoadingData()
 void FileListTableView::FinishLoadingData(qint64, bool completed)
 {
     loading = false;
-    // A key rather than a text, on purpose: translations share it with the application's own.
+    // A key rather than a text, on purpose: without a translation a plain word takes its place.
     QString label = tr("Common::Next");
     if (label == QLatin1String("Common::Next")) {
         label = QLatin1String("Next");
