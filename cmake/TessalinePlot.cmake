@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 # Decides whether the chart is built, which takes a Qwt made for the chosen Qt.
-# Sets TESSALINE_HAS_PLOT.
+# Sets TESSALINE_HAS_PLOT and TESSALINE_QWT_MINIMUM.
 
 set(TESSALINE_PLOT ON CACHE STRING
     "Build the chart with Qwt: ON (Qwt must be there), OFF, or AUTO (only where Qwt is found)")
@@ -10,17 +10,17 @@ set(TESSALINE_HAS_PLOT OFF)
 if(TESSALINE_PLOT)
     set(Qwt_QT_MAJOR ${TESSALINE_QT})
     if(TESSALINE_QT EQUAL 4)
-        set(_tessaline_qwt_minimum 5.2)
+        set(TESSALINE_QWT_MINIMUM 5.2)
     elseif(TESSALINE_QT EQUAL 5)
-        set(_tessaline_qwt_minimum 6.1)
+        set(TESSALINE_QWT_MINIMUM 6.1)
     else()
-        set(_tessaline_qwt_minimum 6.2)
+        set(TESSALINE_QWT_MINIMUM 6.2)
     endif()
-    find_package(Qwt ${_tessaline_qwt_minimum} QUIET)
+    find_package(Qwt ${TESSALINE_QWT_MINIMUM} QUIET)
     set(TESSALINE_HAS_PLOT ${Qwt_FOUND})
     if(NOT Qwt_FOUND AND NOT TESSALINE_PLOT STREQUAL "AUTO")
         message(FATAL_ERROR
-            "Qwt ${_tessaline_qwt_minimum} or newer, built for Qt ${TESSALINE_QT}, was not found "
+            "Qwt ${TESSALINE_QWT_MINIMUM} or newer, built for Qt ${TESSALINE_QT}, was not found "
             "(Debian's package for Qt 5 is libqwt-qt5-dev). The chart needs it. Install it, say "
             "where it is with QWT_INCLUDE_DIR and QWT_LIBRARY, or build without the chart with "
             "-DTESSALINE_PLOT=OFF.")

@@ -1,7 +1,11 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 # Chooses the Qt to build with. The only place that knows how the packages of Qt 4, 5 and 6 are
 # called; everything else uses the variables set here:
-#   TESSALINE_QT_CORE, TESSALINE_QT_WIDGETS, TESSALINE_QT_TEST   targets to link
+#   TESSALINE_QT_CORE, TESSALINE_QT_WIDGETS, TESSALINE_QT_UIPLUGIN   targets to link
+#   TESSALINE_QT_TEST, TESSALINE_QT_UITOOLS, TESSALINE_QT_DESIGNERCOMPONENTS   the same, for tests
+#   TESSALINE_QT_PACKAGE, TESSALINE_QT_MINIMUM, TESSALINE_QT_COMPONENTS   what find_package() takes
+#   TESSALINE_QT_PKGCONFIG, TESSALINE_QT_DEBIAN_PACKAGE   how others call what its headers come in
+#   TESSALINE_QT_PREFIX, TESSALINE_QT_PLUGINS, TESSALINE_QT_PROGRAMS   where it is installed
 #   tessaline_add_translations(variable file.ts...)      makes .qm files and lists them in the variable
 #   TESSALINE_QT_SUFFIX                  what tells the library's file name of this Qt from the others
 
@@ -10,31 +14,63 @@ set_property(CACHE TESSALINE_QT PROPERTY STRINGS 5 6 4)
 
 set(CMAKE_CXX_STANDARD 11)
 if(TESSALINE_QT EQUAL 4)
+    set(TESSALINE_QT_PACKAGE Qt4)
+    set(TESSALINE_QT_COMPONENTS QtGui)
+    set(TESSALINE_QT_PKGCONFIG QtGui)
+    set(TESSALINE_QT_MINIMUM 4.8)
     find_package(Qt4 4.8 REQUIRED COMPONENTS QtCore QtGui)
-    if(TESSALINE_TESTS)
-        find_package(Qt4 4.8 REQUIRED COMPONENTS QtCore QtGui QtTest)
-    endif()
     set(TESSALINE_QT_CORE Qt4::QtCore)
     set(TESSALINE_QT_WIDGETS Qt4::QtGui)
-    set(TESSALINE_QT_TEST Qt4::QtTest)
+    add_library(TessalineQt4UiPlugin INTERFACE)
+    target_include_directories(TessalineQt4UiPlugin INTERFACE "${QT_INCLUDE_DIR}/QtDesigner")
+    set(TESSALINE_QT_UIPLUGIN TessalineQt4UiPlugin)
+    if(TESSALINE_TESTS)
+        find_package(Qt4 4.8 REQUIRED COMPONENTS QtCore QtGui QtTest QtXml QtUiTools)
+        set(TESSALINE_QT_TEST Qt4::QtTest)
+        set(TESSALINE_QT_UITOOLS Qt4::QtUiTools Qt4::QtXml)
+    endif()
+    set(_tessaline_qmake "${QT_QMAKE_EXECUTABLE}")
 elseif(TESSALINE_QT EQUAL 5 OR TESSALINE_QT EQUAL 6)
+    set(TESSALINE_QT_PACKAGE Qt${TESSALINE_QT})
+    set(TESSALINE_QT_COMPONENTS Widgets)
+    set(TESSALINE_QT_PKGCONFIG Qt${TESSALINE_QT}Widgets)
     if(TESSALINE_QT EQUAL 6)
         set(CMAKE_CXX_STANDARD 17) # asked for by Qt 6's own headers
-        find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+        set(TESSALINE_QT_MINIMUM 6.4)
+        set(TESSALINE_QT_DEBIAN_PACKAGE qt6-base-dev)
     else()
-        find_package(Qt5 5.15 REQUIRED COMPONENTS Widgets)
+        set(TESSALINE_QT_MINIMUM 5.15)
+        set(TESSALINE_QT_DEBIAN_PACKAGE qtbase5-dev)
     endif()
+    find_package(${TESSALINE_QT_PACKAGE} ${TESSALINE_QT_MINIMUM} REQUIRED
+        COMPONENTS Widgets UiPlugin)
+    set(TESSALINE_QT_CORE ${TESSALINE_QT_PACKAGE}::Core)
+    set(TESSALINE_QT_WIDGETS ${TESSALINE_QT_PACKAGE}::Widgets)
+    set(TESSALINE_QT_UIPLUGIN ${TESSALINE_QT_PACKAGE}::UiPlugin)
     if(TESSALINE_TESTS)
-        find_package(Qt${TESSALINE_QT} REQUIRED COMPONENTS Test)
+        find_package(${TESSALINE_QT_PACKAGE} REQUIRED COMPONENTS Test UiTools)
+        set(TESSALINE_QT_TEST ${TESSALINE_QT_PACKAGE}::Test)
+        set(TESSALINE_QT_UITOOLS ${TESSALINE_QT_PACKAGE}::UiTools)
+        if(TESSALINE_QT EQUAL 5) # in Qt 6 they are private
+            find_package(Qt5 REQUIRED COMPONENTS Designer DesignerComponents Xml)
+            set(TESSALINE_QT_DESIGNERCOMPONENTS Qt5::Designer Qt5::DesignerComponents Qt5::Xml)
+        endif()
     endif()
-    set(TESSALINE_QT_CORE Qt${TESSALINE_QT}::Core)
-    set(TESSALINE_QT_WIDGETS Qt${TESSALINE_QT}::Widgets)
-    set(TESSALINE_QT_TEST Qt${TESSALINE_QT}::Test)
+    get_target_property(_tessaline_qmake ${TESSALINE_QT_PACKAGE}::qmake IMPORTED_LOCATION)
 else()
     message(FATAL_ERROR "TESSALINE_QT is \"${TESSALINE_QT}\"; it must be 4, 5 or 6.")
 endif()
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
+
+function(_tessaline_query_qmake variable property)
+    execute_process(COMMAND "${_tessaline_qmake}" -query ${property}
+        OUTPUT_VARIABLE value OUTPUT_STRIP_TRAILING_WHITESPACE)
+    set(${variable} "${value}" PARENT_SCOPE)
+endfunction()
+_tessaline_query_qmake(TESSALINE_QT_PREFIX QT_INSTALL_PREFIX)
+_tessaline_query_qmake(TESSALINE_QT_PLUGINS QT_INSTALL_PLUGINS)
+_tessaline_query_qmake(TESSALINE_QT_PROGRAMS QT_INSTALL_BINS)
 
 # Builds for several Qt live side by side; the plain name is the primary Qt's.
 if(TESSALINE_QT EQUAL 5)
@@ -53,6 +89,7 @@ function(tessaline_add_translations variable)
     endif()
     set_source_files_properties(${ARGN} PROPERTIES
         OUTPUT_LOCATION "${CMAKE_CURRENT_BINARY_DIR}/translations")
+    file(MAKE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/translations")
     # Not create_translation: "make clean" would delete the .ts files.
     if(TESSALINE_QT EQUAL 5)
         qt5_add_translation(files ${ARGN})

@@ -36,5 +36,9 @@ need() {
 # What any build takes. The fonts: without one, texts are blank and no error tells.
 packages_build="cmake ninja-build g++ fonts-dejavu-core"
 packages_qt5="qtbase5-dev libqwt-qt5-dev qttools5-dev qttools5-dev-tools"
-packages_qt6="qt6-base-dev libgl-dev qt6-tools-dev qt6-l10n-tools"
+packages_qt6="qt6-base-dev libgl-dev libqt6opengl6-dev qt6-tools-dev qt6-l10n-tools"
 packages_checks="clang-format clang-tidy clazy libbenchmark-dev libqcustomplot-dev libqt5charts5-dev"
+# For pictures of a program on a display.
+packages_pictures="xvfb xdotool imagemagick"
+# For the tests of the installed library and its packages.
+packages_install="pkg-config make binutils dpkg-dev file lintian"

@@ -11,16 +11,28 @@
 
 namespace {
 
-/// Speaks the user's language where there is a translation: of the library's few texts too, which
-/// loads none by itself.
-void translate(QTranslator *translator)
+/// Speaks the user's language where there is a translation.
+void translate(QTranslator *translator, const QString &name, const QString &folder)
 {
-    const QDir folder(QCoreApplication::applicationDirPath());
-    if (translator->load(QLocale(), QStringLiteral("backup"), QStringLiteral("_"),
-                         folder.filePath(QStringLiteral("translations")))) {
+    if (translator->load(QLocale(), name, QStringLiteral("_"), folder)) {
         QCoreApplication::installTranslator(translator);
     }
 }
+
+/// The library has a few texts of its own; it loads no translation of them by itself.
+struct Translators
+{
+    Translators()
+    {
+        const QDir folder(QCoreApplication::applicationDirPath());
+        translate(&program, QStringLiteral("backup"),
+                  folder.filePath(QStringLiteral("translations")));
+        translate(&library, QStringLiteral("tessaline"), QStringLiteral(TESSALINE_TRANSLATIONS));
+    }
+
+    QTranslator program;
+    QTranslator library;
+};
 
 int openWindow(const CommandLine &commandLine)
 {
@@ -36,15 +48,14 @@ int openWindow(const CommandLine &commandLine)
 
 int main(int argc, char **argv)
 {
-    QTranslator translator;
     // Without a window there need not be a display.
     if (CommandLine::needsNoWindow(argc, argv)) {
         QCoreApplication application(argc, argv);
-        translate(&translator);
+        const Translators translators;
         return runFromCommandLine(CommandLine::parse(QCoreApplication::arguments()));
     }
     QApplication application(argc, argv);
-    translate(&translator);
+    const Translators translators;
     const CommandLine commandLine = CommandLine::parse(QCoreApplication::arguments());
     return commandLine.opensWindow() ? openWindow(commandLine) : runFromCommandLine(commandLine);
 }

@@ -196,6 +196,14 @@ inline QList<bool> flags(const QMetaProperty &property, const QObject *)
 
 #endif
 
+/// The Qt that the tests, and so the library, were built with.
+const char *const builtVersion = QT_VERSION_STR;
+#ifdef QT_NO_DEBUG
+const bool builtForDebugging = false;
+#else
+const bool builtForDebugging = true;
+#endif
+
 /// Carries out deleteLater() on all versions; waiting alone does so since Qt 5 only.
 inline void deliverDeferredDeletes()
 {

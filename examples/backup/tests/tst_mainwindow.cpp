@@ -188,10 +188,14 @@ void tst_MainWindow::reachesEverythingByKeyboard()
 void tst_MainWindow::speaksGerman()
 {
     QTranslator translator;
-    if (!translator.load(QStringLiteral("backup_de"), QStringLiteral(TRANSLATIONS_FOLDER))) {
+    QTranslator libraryTranslator;
+    if (!translator.load(QStringLiteral("backup_de"), QStringLiteral(TRANSLATIONS_FOLDER))
+        || !libraryTranslator.load(QStringLiteral("tessaline_de"),
+                                   QStringLiteral(TESSALINE_TRANSLATIONS))) {
         QSKIP("Built without translations.");
     }
     QCoreApplication::installTranslator(&translator);
+    QCoreApplication::installTranslator(&libraryTranslator);
     const Window window;
     window.showFiles();
     QTRY_COMPARE(window.listedNames(), QStringList(QStringLiteral("one")));
@@ -208,6 +212,7 @@ void tst_MainWindow::speaksGerman()
         = qobject_cast<QPushButton *>(window->filesPage()->list()->indexWidget(files->index(1, 0)));
 
     QCoreApplication::removeTranslator(&translator);
+    QCoreApplication::removeTranslator(&libraryTranslator);
     QCOMPARE(run->text(), QStringLiteral("Starten"));
     QVERIFY(next);
     QTRY_COMPARE(next->text(), QStringLiteral("Weiter >>"));

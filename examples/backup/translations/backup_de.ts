@@ -163,17 +163,6 @@
     </message>
 </context>
 <context>
-    <name>FileListTableView</name>
-    <message>
-        <source>loading...</source>
-        <translation>wird geladen...</translation>
-    </message>
-    <message>
-        <source>Common::Next</source>
-        <translation>Weiter</translation>
-    </message>
-</context>
-<context>
     <name>FileListing</name>
     <message>
         <source>link</source>

@@ -1,0 +1,88 @@
+# SPDX-License-Identifier: LGPL-3.0-or-later
+# What is installed, and where. Builds for several Qt fit into one prefix: whatever would clash has
+# the Qt in its name.
+
+include(CMakePackageConfigHelpers)
+
+set(package Tessaline${TESSALINE_QT_SUFFIX})
+set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
+set(TESSALINE_DATA_DIR ${CMAKE_INSTALL_DATADIR}/${package})
+
+# Where the Designer of this Qt looks, if the library goes where this Qt is. Elsewhere a folder that
+# QT_PLUGIN_PATH can name.
+string(FIND "${TESSALINE_QT_PLUGINS}/" "${CMAKE_INSTALL_PREFIX}/" place)
+if(CMAKE_INSTALL_PREFIX STREQUAL TESSALINE_QT_PREFIX AND place EQUAL 0)
+    file(RELATIVE_PATH plugins_dir "${CMAKE_INSTALL_PREFIX}" "${TESSALINE_QT_PLUGINS}")
+else()
+    set(plugins_dir ${CMAKE_INSTALL_LIBDIR}/qt${TESSALINE_QT}/plugins)
+endif()
+set(TESSALINE_PLUGINS_DIR "${plugins_dir}" CACHE STRING
+    "Folder under the prefix in whose subfolder \"designer\" the plug-in is installed")
+
+string(JOIN " " folders ${config_dir} ${CMAKE_INSTALL_LIBDIR}/pkgconfig ${TESSALINE_INCLUDE_DIR}
+    ${TESSALINE_DATA_DIR}/translations ${TESSALINE_PLUGINS_DIR}/designer)
+configure_file(cmake/record-folders.cmake.in record-folders.cmake @ONLY)
+install(SCRIPT "${CMAKE_CURRENT_BINARY_DIR}/record-folders.cmake")
+
+# The package for find_package(), and its targets.
+set(targets TessalineLibrary Tessaline)
+if(TESSALINE_HAS_PLOT)
+    list(APPEND targets TessalinePlot)
+endif()
+install(TARGETS ${targets} EXPORT ${package}Targets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+install(EXPORT ${package}Targets NAMESPACE Tessaline:: DESTINATION ${config_dir}
+    COMPONENT development)
+configure_package_config_file(cmake/TessalineConfig.cmake.in ${package}Config.cmake
+    INSTALL_DESTINATION ${config_dir}
+    PATH_VARS TESSALINE_DATA_DIR)
+write_basic_package_version_file(${package}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES
+    "${CMAKE_CURRENT_BINARY_DIR}/${package}Config.cmake"
+    "${CMAKE_CURRENT_BINARY_DIR}/${package}ConfigVersion.cmake"
+    DESTINATION ${config_dir} COMPONENT development)
+if(TESSALINE_HAS_PLOT)
+    install(FILES cmake/FindQwt.cmake DESTINATION ${config_dir} COMPONENT development)
+endif()
+
+# The package for pkg-config: it finds its prefix from its own place, which may be moved.
+file(RELATIVE_PATH TESSALINE_UP "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+string(REGEX REPLACE "/$" "" TESSALINE_UP "${TESSALINE_UP}")
+set(pc_cflags)
+set(pc_plot)
+set(pc_libs)
+if(TESSALINE_HAS_PLOT)
+    # Qwt has no package there that could be relied on.
+    get_filename_component(qwt_dir "${QWT_LIBRARY}" DIRECTORY)
+    get_filename_component(qwt_name "${QWT_LIBRARY}" NAME_WE)
+    string(REGEX REPLACE "^lib" "" qwt_name "${qwt_name}")
+    set(pc_cflags " -DTESSALINE_HAS_PLOT -I${QWT_INCLUDE_DIR}")
+    set(pc_plot " -lTessalinePlot${TESSALINE_QT_SUFFIX}")
+    set(pc_libs " -L${qwt_dir} -l${qwt_name}")
+endif()
+configure_file(cmake/Tessaline.pc.in ${package}.pc @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${package}.pc"
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+
+foreach(header IN LISTS TESSALINE_PUBLIC_HEADERS)
+    install(FILES widgets/${header} DESTINATION ${TESSALINE_INCLUDE_DIR} COMPONENT development)
+endforeach()
+install(FILES ${TESSALINE_TRANSLATIONS} DESTINATION ${TESSALINE_DATA_DIR}/translations
+    COMPONENT runtime)
+
+# The plug-in is a link to the library: as a copy, a program that links the library and loads its
+# plug-in would have everything twice.
+file(RELATIVE_PATH library_dir "/${TESSALINE_PLUGINS_DIR}/designer" "/${CMAKE_INSTALL_LIBDIR}")
+set(plugin "lib${package}.so")
+file(MAKE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin")
+file(CREATE_LINK "${library_dir}${plugin}.${PROJECT_VERSION_MAJOR}"
+    "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}" SYMBOLIC)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}"
+    DESTINATION ${TESSALINE_PLUGINS_DIR}/designer COMPONENT development)
+
+configure_file(cmake/uninstall.cmake.in uninstall.cmake @ONLY)
+if(NOT TARGET uninstall)
+    add_custom_target(uninstall
+        COMMAND ${CMAKE_COMMAND} -P "${CMAKE_CURRENT_BINARY_DIR}/uninstall.cmake" VERBATIM)
+endif()
