@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "FileListTableView.h"
+#include "PageThread.h"
 #include "PagedModel.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
@@ -8,34 +9,8 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QStringListModel>
-#include <QThread>
 
 namespace {
-
-/// Delivers a page, or another session, from a thread of its own.
-class Loader : public QThread
-{
-public:
-    Loader(PagedModel *pagedModel, bool changesSession)
-        : model(pagedModel)
-        , isSessionChange(changesSession)
-    {
-    }
-
-protected:
-    void run() override
-    {
-        if (isSessionChange) {
-            model->changeSession();
-        } else {
-            model->announce(7, true);
-        }
-    }
-
-private:
-    PagedModel *model;
-    bool isSessionChange;
-};
 
 QString labelOfButton(const FileListTableView &view)
 {
@@ -289,7 +264,7 @@ void FileListSafetyTest::takesAPageFromAnotherThread()
     FileListTableView view;
     view.setModel(&model);
     view.StartLoadingData();
-    Loader loader(&model, false);
+    PageThread loader(&model, false);
 
     loader.start();
     QVERIFY(loader.wait());
@@ -303,7 +278,7 @@ void FileListSafetyTest::takesASessionFromAnotherThread()
     PagedModel model;
     FileListTableView view;
     view.setModel(&model);
-    Loader loader(&model, true);
+    PageThread loader(&model, true);
 
     loader.start();
     QVERIFY(loader.wait());
@@ -315,23 +290,30 @@ void FileListSafetyTest::takesASessionFromAnotherThread()
 void FileListSafetyTest::sparesTheNextModelFromALatePageOrSession_data()
 {
     QTest::addColumn<bool>("changesSession");
+    QTest::addColumn<bool>("dies");
 
-    QTest::newRow("page") << false;
-    QTest::newRow("session") << true;
+    QTest::newRow("page") << false << false;
+    QTest::newRow("session") << true << false;
+    QTest::newRow("page of a model that dies") << false << true;
+    QTest::newRow("session of a model that dies") << true << true;
 }
 
 void FileListSafetyTest::sparesTheNextModelFromALatePageOrSession()
 {
     QFETCH(bool, changesSession);
-    PagedModel model;
+    QFETCH(bool, dies);
+    QScopedPointer<PagedModel> model(new PagedModel);
     PagedModel second;
     FileListTableView view;
-    view.setModel(&model);
+    view.setModel(model.data());
     view.StartLoadingData();
-    Loader loader(&model, changesSession);
+    PageThread loader(model.data(), changesSession);
     loader.start();
     QVERIFY(loader.wait()); // what it said is on its way to the view
 
+    if (dies) {
+        model.reset();
+    }
     view.setModel(&second);
     second.insertPage(3);
     goThroughEvents();

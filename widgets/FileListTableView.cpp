@@ -21,6 +21,7 @@ const int fixedHeight = 18;
 
 FileListTableView::FileListTableView(QWidget *parent)
     : QTableView(parent)
+    , attached(false)
     , loading(false)
     , lastWidth(0)
     , fixedRowHeight(fixedHeight)
@@ -49,19 +50,13 @@ FileListTableView::~FileListTableView()
 // clazy:excludeall=connect-not-normalized (the signatures are written as the models declare them)
 void FileListTableView::setModel(QAbstractItemModel *model)
 {
-    if (standardModel) {
-        disconnect(standardModel,
-                   SIGNAL(pageLoaded(qint64, bool)), this, SLOT(FinishLoadingData(qint64, bool)));
-        disconnect(standardModel, SIGNAL(dataChanged()), this, SLOT(SessionChanged()));
-        disconnect(this, SIGNAL(requestItems()), standardModel, SLOT(LoadItems()));
-        // What the old model said from another thread is for the old model, and must not come late.
-        const QPointer<FileListTableView> self(this);
-        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
-        if (!self) {
-            return; // one of the calls was to delete it
-        }
+    const QPointer<FileListTableView> self(this);
+    detach();
+    if (!self) {
+        return; // a call that was on its way was to delete it
     }
     standardModel = qobject_cast<QStandardItemModel *>(model);
+    attached = standardModel;
     if (!model) {
         return; // on purpose without the base class: what is shown stays
     }
@@ -157,6 +152,20 @@ void FileListTableView::SessionChanged()
 void FileListTableView::SortByColumn(int)
 {
     horizontalHeader()->setSortIndicatorShown(false);
+}
+
+void FileListTableView::detach()
+{
+    if (standardModel) {
+        disconnect(standardModel,
+                   SIGNAL(pageLoaded(qint64, bool)), this, SLOT(FinishLoadingData(qint64, bool)));
+        disconnect(standardModel, SIGNAL(dataChanged()), this, SLOT(SessionChanged()));
+        disconnect(this, SIGNAL(requestItems()), standardModel, SLOT(LoadItems()));
+    }
+    if (attached) {
+        // What the old model said from another thread is for it, and must not come late.
+        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    }
 }
 
 void FileListTableView::AddButtons()

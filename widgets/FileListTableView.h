@@ -66,6 +66,7 @@ Q_SIGNALS:
     void requestItems();
 
 private:
+    void detach();
     void AddButtons();
     void RemoveButtons();
     void AdjustColumnswidth();
@@ -77,6 +78,7 @@ private:
 
     QPointer<QStandardItemModel> standardModel;
     QPointer<CellButton> nextButton; ///< Guarded: a reset of the model makes the view delete it.
+    bool attached; ///< To a standard model, which may have been deleted since.
     bool loading;
     int lastWidth;
     int fixedRowHeight;

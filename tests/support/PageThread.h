@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#ifndef TESSALINE_PAGETHREAD_H
+#define TESSALINE_PAGETHREAD_H
+
+#include "PagedModel.h"
+
+#include <QThread>
+
+/// Announces a page, or another session, from a thread of its own.
+class PageThread : public QThread
+{
+public:
+    PageThread(PagedModel *pagedModel, bool changesSession, bool isLastPage = true)
+        : model(pagedModel)
+        , isSessionChange(changesSession)
+        , completed(isLastPage)
+    {
+    }
+
+protected:
+    void run() override
+    {
+        if (isSessionChange) {
+            model->changeSession();
+        } else {
+            model->announce(7, completed);
+        }
+    }
+
+private:
+    PagedModel *model;
+    bool isSessionChange;
+    bool completed;
+};
+
+#endif
