@@ -49,6 +49,8 @@ private Q_SLOTS:
     void survivesAModelThatIsCleared();
     void survivesAModelThatRemovesThePagingRow();
     void survivesAModelWithoutColumns();
+    void survivesAModelThatReplacesItsColumns_data();
+    void survivesAModelThatReplacesItsColumns();
     void survivesAModelReplacedWhileItsButtonIsClicked();
     void takesAPageFromAnotherThread();
     void takesASessionFromAnotherThread();
@@ -237,6 +239,40 @@ void FileListSafetyTest::survivesAModelWithoutColumns()
     model.announce(0, true);
 
     QCOMPARE(buttonCount(view), 0);
+}
+
+void FileListSafetyTest::survivesAModelThatReplacesItsColumns_data()
+{
+    QTest::addColumn<bool>("changesSession");
+
+    QTest::newRow("and ends") << false;
+    QTest::newRow("and changes the session") << true;
+}
+
+void FileListSafetyTest::survivesAModelThatReplacesItsColumns()
+{
+    QFETCH(bool, changesSession);
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&model);
+    showWindow(&view, 400, 300);
+    model.deliver(2, false);
+    goThroughEvents();
+    const QPointer<QWidget> button = view.indexWidget(model.index(2, 0));
+
+    model.setColumnCount(0);
+    model.setColumnCount(5);
+    if (changesSession) {
+        model.changeSession();
+    } else {
+        model.announce(0, true);
+    }
+
+    QVERIFY(button); // the view has not let go of it yet
+    use(&view);
+    QVERIFY(!button);
+
+    QCOMPARE(buttonCount(view), changesSession ? 1 : 0);
 }
 
 void FileListSafetyTest::survivesAModelReplacedWhileItsButtonIsClicked()

@@ -182,6 +182,7 @@ void FileListTableView::AddButtons()
 
 void FileListTableView::RemoveButtons()
 {
+    forgetReleasedButton();
     if (!nextButton || !standardModel) {
         return;
     }
@@ -222,7 +223,8 @@ void FileListTableView::createButton(const QString &text)
 }
 
 // A button that the view has released, as after a reset of the model, is hidden and about to be
-// deleted. One without a parent has not been given to the view yet.
+// deleted; one whose column went it releases with the next layout, and until then must find it
+// alive. A button without a parent has not been given to the view yet.
 void FileListTableView::forgetReleasedButton()
 {
     if (nextButton && nextButton->parentWidget() && indexWidget(nextButton->index) != nextButton) {
