@@ -58,6 +58,7 @@ private Q_SLOTS:
     void sparesTheNextModelFromALatePageOrSession();
     void survivesItsDeletionByACallThatWasQueued();
     void ignoresRowsOfAChild();
+    void keepsTheCurrentCellWhenTheFocusedButtonScrollsAway();
 
 public Q_SLOTS:
     void replaceModel();
@@ -390,6 +391,24 @@ void FileListSafetyTest::ignoresRowsOfAChild()
 
     QCOMPARE(view.indexWidget(model.index(1, 0)), button);
     QCOMPARE(buttonCount(view), 1);
+}
+
+void FileListSafetyTest::keepsTheCurrentCellWhenTheFocusedButtonScrollsAway()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&model);
+    showWindow(&view, 400, 300);
+    QWidget *button = view.indexWidget(model.index(0, 0));
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(button->hasFocus());
+    model.deliver(50, false);
+
+    view.setCurrentIndex(model.index(3, 1)); // lays the rows out
+
+    QVERIFY(!button->isVisible());
+    QCOMPARE(view.currentIndex(), QModelIndex(model.index(3, 1)));
+    QVERIFY(view.hasFocus());
 }
 
 TESSALINE_TEST_MAIN(FileListSafetyTest)
