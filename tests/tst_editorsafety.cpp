@@ -8,6 +8,7 @@
 #include <QEventLoop>
 #include <QLineEdit>
 #include <QPointer>
+#include <QStringListModel>
 #include <QTimer>
 
 namespace {
@@ -82,6 +83,8 @@ private Q_SLOTS:
     void survivesColumnsDeclaredAnewDuringACommit_data();
     void survivesColumnsDeclaredAnewDuringACommit();
     void survivesAModelReplacedDuringAnEdit();
+    void writesNothingIntoAModelThatComesDuringAnEdit_data();
+    void writesNothingIntoAModelThatComesDuringAnEdit();
     void survivesARowRemovedDuringAnEdit();
 
 public Q_SLOTS:
@@ -345,6 +348,43 @@ void EditorSafetyTest::survivesAModelReplacedDuringAnEdit()
     QVERIFY(!table.editor);
     QCOMPARE(buttonMarks(table.view, 1), QString("xx"));
     table.view.setModel(nullptr);
+}
+
+void EditorSafetyTest::writesNothingIntoAModelThatComesDuringAnEdit_data()
+{
+    QTest::addColumn<QString>("declaration");
+
+    const QStringList editors = QStringList() << "combobox"
+                                              << "editcombobox"
+                                              << "editbox"
+                                              << "passwordbox"
+                                              << "checkbox";
+    for (const QString &declaration : editors) {
+        QTest::newRow(qPrintable(declaration)) << declaration;
+    }
+}
+
+void EditorSafetyTest::writesNothingIntoAModelThatComesDuringAnEdit()
+{
+    QFETCH(QString, declaration);
+    QStringListModel items(QStringList() << "typed");
+    QStringListModel first(QStringList() << "");
+    QStringListModel second(QStringList() << "");
+    EditableTableView view;
+    view.setColumns(QStringList(declaration));
+    view.bindModel(0, &items);
+    view.setModel(&first);
+    view.setTabKeyNavigation(false); // as after the removal of a row
+    showWindow(&view, 400, 200);
+    QWidget *editor = openEditor(&view, first.index(0));
+    QVERIFY(editor);
+    QTest::keyClicks(editor, "typed");
+    QTest::keyClick(editor, Qt::Key_Space); // checks a box
+
+    view.setModel(&second);
+    goThroughEvents();
+
+    QCOMPARE(second.stringList(), QStringList(""));
 }
 
 void EditorSafetyTest::survivesARowRemovedDuringAnEdit()

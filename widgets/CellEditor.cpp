@@ -48,9 +48,14 @@ void cover(QWidget *editor, const QStyleOptionViewItem &option)
     editor->setGeometry(option.rect);
 }
 
+bool isCellOf(const QAbstractItemModel *model, const QModelIndex &index)
+{
+    return index.model() == model;
+}
+
 void store(const QString &text, QAbstractItemModel *model, const QModelIndex &index)
 {
-    if (compat::text(model->data(index, Qt::EditRole)) != text) {
+    if (isCellOf(model, index) && compat::text(model->data(index, Qt::EditRole)) != text) {
         model->setData(index, text, Qt::EditRole);
     }
 }

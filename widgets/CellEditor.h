@@ -25,6 +25,10 @@ QPersistentModelIndex cellOf(const QObject *widget);
 /// Makes the editor cover its whole cell.
 void cover(QWidget *editor, const QStyleOptionViewItem &option);
 
+/// Whether a cell is one of this model. A view that is given another model hides its editors, and
+/// offers that model what was typed for a cell of the one before.
+bool isCellOf(const QAbstractItemModel *model, const QModelIndex &index);
+
 /// Writes `text` under Qt::EditRole unless the cell holds just that text.
 void store(const QString &text, QAbstractItemModel *model, const QModelIndex &index);
 

@@ -62,7 +62,8 @@ void CheckItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *itemMo
                                      const QModelIndex &index) const
 {
     const QCheckBox *box = qobject_cast<QCheckBox *>(editor);
-    if (box && box->isChecked() != isChecked(itemModel->data(index, Qt::EditRole))) {
+    if (box && CellEditor::isCellOf(itemModel, index)
+        && box->isChecked() != isChecked(itemModel->data(index, Qt::EditRole))) {
         const CellEditor::Commit commit(this, editor);
         const QString written = QLatin1String(box->isChecked() ? "1" : "");
         itemModel->setData(index, written, Qt::EditRole);

@@ -42,7 +42,7 @@ void PasswordItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *ite
                                         const QModelIndex &index) const
 {
     const QLineEdit *field = qobject_cast<QLineEdit *>(editor);
-    if (!field) {
+    if (!field || !CellEditor::isCellOf(itemModel, index)) {
         return;
     }
     // The first write makes the view load the field anew, so all that is needed is taken before.
