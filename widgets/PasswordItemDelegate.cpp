@@ -18,6 +18,20 @@ bool holdsText(const QAbstractItemModel *itemModel, const QModelIndex &index, in
 
 } // namespace
 
+/// What a delegate that knows nothing of the editor takes from it, as the plain delegate does when
+/// columns move below it, is the user property: here the mask, not the text.
+class PasswordField : public QLineEdit
+{
+    Q_OBJECT
+    Q_PROPERTY(QString mask READ displayText USER true) // clazy:exclude=qproperty-without-notify
+
+public:
+    explicit PasswordField(QWidget *parent)
+        : QLineEdit(parent)
+    {
+    }
+};
+
 PasswordItemDelegate::PasswordItemDelegate(QObject *parent)
     : EditItemDelegate(parent)
 {
@@ -26,7 +40,7 @@ PasswordItemDelegate::PasswordItemDelegate(QObject *parent)
 QWidget *PasswordItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
                                             const QModelIndex &index) const
 {
-    QLineEdit *field = new QLineEdit(parent);
+    QLineEdit *field = new PasswordField(parent);
     CellEditor::dress(field, "EditableTableViewPassword column", index);
     field->setFrame(false);
     field->setEchoMode(QLineEdit::Password);
@@ -68,3 +82,5 @@ void PasswordItemDelegate::updateEditorGeometry(QWidget *editor, const QStyleOpt
 {
     CellEditor::cover(editor, option);
 }
+
+#include "PasswordItemDelegate.moc"
