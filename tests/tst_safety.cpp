@@ -32,6 +32,7 @@ private Q_SLOTS:
     void acceptsItsFirstModelWhileShown();
     void survivesAModelThatDies();
     void ignoresAClickOnAButtonWhoseRowIsGone();
+    void ignoresAClickOnAButtonOfAFormerModel();
     void ignoresAClickSlotCalledWithoutASender();
     void ignoresAClickSlotCalledByAnotherSender();
     void ignoresABindingItCannotMake_data();
@@ -137,6 +138,23 @@ void SafetyTest::ignoresAClickOnAButtonWhoseRowIsGone()
     QSignalSpy spy(&view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
 
     model.removeRow(1);
+    QVERIFY(button);
+    button->click();
+
+    QCOMPARE(spy.count(), 0);
+}
+
+void SafetyTest::ignoresAClickOnAButtonOfAFormerModel()
+{
+    QStandardItemModel model(3, 3);
+    QStandardItemModel second(3, 3);
+    EditableTableView view;
+    view.setColumns(declarations());
+    view.setModel(&model);
+    const QPointer<CellButton> button = dynamic_cast<CellButton *>(view.button(1, 1));
+    QSignalSpy spy(&view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
+
+    view.setModel(&second);
     QVERIFY(button);
     button->click();
 

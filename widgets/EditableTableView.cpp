@@ -279,7 +279,8 @@ void EditableTableView::rowsAboutToBeRemoved(const QModelIndex &parent, int star
 void EditableTableView::buttonClicked()
 {
     CellButton *source = dynamic_cast<CellButton *>(sender());
-    if (!source || !source->index.isValid()) {
+    // Until it is deleted, the button of a model that was replaced can still be released.
+    if (!source || !source->index.isValid() || source->index.model() != model()) {
         return;
     }
     const QPersistentModelIndex cell = source->index;
