@@ -23,6 +23,9 @@ void PagedModel::deliver(int count, bool completed)
 
 void PagedModel::insertPage(int count)
 {
+    if (columnCount() == 0) {
+        return; // there is no place for an item
+    }
     QList<QStandardItem *> names;
     for (int i = 0; i < count; ++i) {
         names.append(new QStandardItem(QString::fromLatin1("file%1").arg(delivered++)));

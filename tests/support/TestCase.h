@@ -14,10 +14,14 @@ class TestCase : public QObject
 {
     Q_OBJECT
 
-protected:
-    /// Announces a message of any kind, word for word.
-    void expectMessage(const QString &message);
+public:
+    /// What would fail the running test if it ended now; empty if nothing would.
+    static QString complaint();
 
+    /// Announces a message of any kind, word for word.
+    static void expectMessage(const QString &message);
+
+protected:
     /// Fails the test if this is said, whatever its kind; warnings fail one anyway.
     void refuseMessage(const QString &message);
 

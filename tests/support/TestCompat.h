@@ -3,6 +3,7 @@
 #define TESSALINE_TESTCOMPAT_H
 
 #include <QAccessible>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QHeaderView>
@@ -11,6 +12,7 @@
 #include <QMetaProperty>
 #include <QPixmap>
 #include <QTranslator>
+#include <QWheelEvent>
 #include <QWidget>
 #include <QtTest>
 
@@ -99,6 +101,18 @@ inline void fixSection(QHeaderView *header, int section)
     header->setResizeMode(section, QHeaderView::Fixed);
 }
 
+inline void freeSection(QHeaderView *header, int section)
+{
+    header->setResizeMode(section, QHeaderView::Interactive);
+}
+
+/// Turns the mouse wheel over a widget, by eighths of a degree.
+inline void turnWheel(QWidget *widget, const QPoint &place, int angle)
+{
+    QWheelEvent event(place, widget->mapToGlobal(place), angle, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+}
+
 /// The access that moc gives to signals.
 const QMetaMethod::Access signalAccess = QMetaMethod::Protected;
 
@@ -170,6 +184,19 @@ inline bool sectionsClickable(const QHeaderView *header)
 inline void fixSection(QHeaderView *header, int section)
 {
     header->setSectionResizeMode(section, QHeaderView::Fixed);
+}
+
+inline void freeSection(QHeaderView *header, int section)
+{
+    header->setSectionResizeMode(section, QHeaderView::Interactive);
+}
+
+/// Turns the mouse wheel over a widget, by eighths of a degree.
+inline void turnWheel(QWidget *widget, const QPoint &place, int angle)
+{
+    QWheelEvent event(place, widget->mapToGlobal(place), QPoint(), QPoint(0, angle), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(widget, &event);
 }
 
 /// The access that moc gives to signals.

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#ifndef TESSALINE_GRIDMODEL_H
+#define TESSALINE_GRIDMODEL_H
+
+#include <QAbstractTableModel>
+#include <QVariant>
+
+#include <vector>
+
+/// A small table of texts and secrets that can do everything to its rows and columns that a model
+/// can. It announces each write, even of what a cell holds already.
+class GridModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    GridModel(int rows, int columns, QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    bool insertRows(int row, int count, const QModelIndex &parent = QModelIndex()) override;
+    bool removeRows(int row, int count, const QModelIndex &parent = QModelIndex()) override;
+    bool insertColumns(int column, int count, const QModelIndex &parent = QModelIndex()) override;
+    bool removeColumns(int column, int count, const QModelIndex &parent = QModelIndex()) override;
+    void sort(int column, Qt::SortOrder order) override;
+
+    /// Moves a row before the one that is at `to`.
+    void shiftRow(int from, int to);
+
+    /// Starts anew with empty cells.
+    void startAnew(int rows, int columns);
+
+    /// Whether views are just being told of a change. Until that is over nobody may make another.
+    bool isChanging() const;
+
+private:
+    struct Cell
+    {
+        QVariant text; ///< For the display and edit roles.
+        QVariant secret; ///< For the role after Qt::UserRole.
+    };
+    typedef std::vector<Cell> Row;
+
+    std::vector<Row> cells;
+    int width;
+    bool changing;
+};
+
+#endif
