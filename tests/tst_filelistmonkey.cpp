@@ -243,7 +243,7 @@ void FileListMonkey::announceFromThread()
         QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall); // one is on its way at most
         PageThread thread(model, dice.oneIn(3), dice.oneIn(2));
         thread.start();
-        expect(thread.wait(), "a thread that does not end");
+        expect(thread.join(), "a thread that does not end");
     }
 }
 

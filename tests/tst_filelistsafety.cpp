@@ -304,7 +304,7 @@ void FileListSafetyTest::takesAPageFromAnotherThread()
     PageThread loader(&model, false);
 
     loader.start();
-    QVERIFY(loader.wait());
+    QVERIFY(loader.join());
 
     QCOMPARE(labelOfButton(view), QString("loading..."));
     QTRY_COMPARE(labelOfButton(view), QString("none"));
@@ -318,7 +318,7 @@ void FileListSafetyTest::takesASessionFromAnotherThread()
     PageThread loader(&model, true);
 
     loader.start();
-    QVERIFY(loader.wait());
+    QVERIFY(loader.join());
 
     QTRY_COMPARE(model.requests, 1);
     QCOMPARE(labelOfButton(view), QString("loading..."));
@@ -346,7 +346,7 @@ void FileListSafetyTest::sparesTheNextModelFromALatePageOrSession()
     view.StartLoadingData();
     PageThread loader(model.data(), changesSession);
     loader.start();
-    QVERIFY(loader.wait()); // what it said is on its way to the view
+    QVERIFY(loader.join()); // what it said is on its way to the view
 
     if (dies) {
         model.reset();

@@ -2,12 +2,11 @@
 #ifndef TESSALINE_PAGETHREAD_H
 #define TESSALINE_PAGETHREAD_H
 
+#include "JoinedThread.h"
 #include "PagedModel.h"
 
-#include <QThread>
-
 /// Announces a page, or another session, from a thread of its own.
-class PageThread : public QThread
+class PageThread : public JoinedThread
 {
 public:
     PageThread(PagedModel *pagedModel, bool changesSession, bool isLastPage = true)
@@ -18,7 +17,7 @@ public:
     }
 
 protected:
-    void run() override
+    void work() override
     {
         if (isSessionChange) {
             model->changeSession();
