@@ -67,6 +67,12 @@ double majorStep(const QwtPlot &plot, int axis)
     return ticks.size() < 2 ? 0.0 : ticks.at(1) - ticks.at(0);
 }
 
+/// Where the labels are that an axis holds; unlike the plot's own, they are there from the start.
+QList<double> firstTicks(const QwtPlot &plot, int axis)
+{
+    return plot.axisScaleDraw(axis)->scaleDiv().ticks(QwtScaleDiv::MajorTick);
+}
+
 void setSecond(int second)
 {
     pretendedSeconds = second;
@@ -87,6 +93,7 @@ private Q_SLOTS:
     void startsWithoutTitlesAndLegend();
     void drawsHorizontalGridLinesOnly();
     void labelsItsAxesInSmallPrint();
+    void leavesQwtsFirstScalesToItsAxes();
     void leavesTheCurveAsQwtMakesIt();
     void readsDefaultColors();
     void takesColors_data();
@@ -227,6 +234,17 @@ void UpdatablePlotTest::labelsItsAxesInSmallPrint()
     const QFontMetrics metrics(plot.axisWidget(QwtPlot::xBottom)->font());
     QCOMPARE(start, 0);
     QCOMPARE(end, 8 * compat::charWidth(metrics, QLatin1Char('8')));
+}
+
+void UpdatablePlotTest::leavesQwtsFirstScalesToItsAxes()
+{
+    // Layouts ask a plot for its size before it is first drawn; then these ticks count.
+    const UpdatablePlot plot;
+    const QwtPlot bare;
+
+    QCOMPARE(firstTicks(plot, QwtPlot::xBottom), firstTicks(bare, QwtPlot::xBottom));
+    QCOMPARE(firstTicks(plot, QwtPlot::yLeft), firstTicks(bare, QwtPlot::yLeft));
+    QVERIFY(!firstTicks(plot, QwtPlot::xBottom).isEmpty());
 }
 
 void UpdatablePlotTest::leavesTheCurveAsQwtMakesIt()

@@ -64,6 +64,7 @@ public Q_SLOTS:
 private:
     void setUpTimeAxis();
     void setUpSizeAxis();
+    void installScaleDraw(int axis, QwtScaleDraw *scaleDraw);
     void setUpGrid();
 
     ByteSizeScaleDraw *sizeScaleDraw; ///< Owned by the axis.
