@@ -8,33 +8,48 @@
 #include <string>
 #include <vector>
 
-/// One line of the table that a benchmark program ends with.
+/// One line of the table that a benchmark program ends with: two runs beside each other.
 struct Comparison
 {
     std::string what;
-    std::string ours; ///< name of the measured run, such as "table/setModelShown/1000"
-    std::string baseline; ///< the run it is held against
-    double most; ///< the ratio that it has to keep; 0: there is none
-    double sizeFactor; ///< 0: a ratio; else a growth exponent for sizes this many times apart
+    std::string ours; ///< The run's name, such as "table/setModelShown/1000"; with ":bytes" at the
+                      ///< end, that counter of the run in place of its time.
+    std::string baseline; ///< The run it is held against.
+    double most; ///< The ratio that it has to keep; 0: there is none.
 };
 
-/// Prints the medians as they come and, at the end, how they compare: ratios, because times of a
-/// shared machine mean nothing alone.
+/// One line with the exponent by which a run grows with its last argument.
+struct Growth
+{
+    std::string what;
+    std::string run; ///< The run's name without the last argument.
+    std::vector<int> sizes; ///< The last arguments.
+    double most; ///< The exponent that it has to keep; 0: there is none.
+};
+
+/// Prints the medians as they come and a table in Markdown at the end. It compares, because times
+/// of a shared machine mean nothing alone. What was not run is left out.
 class RatioReporter : public benchmark::ConsoleReporter
 {
 public:
-    explicit RatioReporter(const std::vector<Comparison> &comparisons);
+    RatioReporter(const std::vector<Comparison> &comparisons, const std::vector<Growth> &growths);
 
     void ReportRuns(const std::vector<Run> &reports) override;
     void Finalize() override;
 
 private:
+    void keep(const Run &run);
+    void print(const Comparison &comparison) const;
+    void print(const Growth &growth) const;
+
     std::vector<Comparison> comparisons;
-    std::map<std::string, double> medians;
+    std::vector<Growth> growths;
+    std::map<std::string, double> medians; ///< Seconds, or what a counter counts.
 };
 
 /// Runs all registered benchmarks: both sides of each comparison in one run, interleaved at random.
 /// Further arguments of Google Benchmark are taken from the command line.
-int runBenchmarks(int argc, char **argv, const std::vector<Comparison> &comparisons);
+int runBenchmarks(int argc, char **argv, const std::vector<Comparison> &comparisons,
+                  const std::vector<Growth> &growths = {});
 
 #endif

@@ -1,117 +1,62 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-// What buttons in the cells of an EditableTableView cost, beside a plain table view into which an
-// application puts its own buttons with setIndexWidget(), the least that any code can do.
+// What an EditableTableView costs: its construction, the buttons in its cells beside those that an
+// application puts into its tables by hand, and an edit beside the toolkit's own.
+#include "ButtonTables.h"
 #include "RatioReporter.h"
+#include "measure.h"
 
-#include <EditableTableView.h>
-
-#include <QApplication>
-#include <QPushButton>
-#include <QStandardItemModel>
+#include <QItemDelegate>
+#include <QKeyEvent>
+#include <QLineEdit>
 
 namespace {
-
-const int buttonColumn = 1;
-
-/// Our table: declared once, it does the rest.
-class DeclaredTable : public EditableTableView
-{
-public:
-    DeclaredTable()
-    {
-        setColumns(QStringList() << "editbox"
-                                 << "button:Run");
-    }
-
-    void show(QStandardItemModel *model)
-    {
-        setModel(model);
-    }
-
-    void append(QStandardItemModel *model)
-    {
-        model->insertRow(model->rowCount());
-    }
-
-    using EditableTableView::show;
-};
-
-/// The baseline: a plain table view and a loop.
-class PlainTable : public QTableView
-{
-public:
-    void show(QStandardItemModel *model)
-    {
-        setModel(model);
-        for (int row = 0; row < model->rowCount(); ++row) {
-            addButton(model->index(row, buttonColumn));
-        }
-    }
-
-    void append(QStandardItemModel *model)
-    {
-        model->insertRow(model->rowCount());
-        addButton(model->index(model->rowCount() - 1, buttonColumn));
-    }
-
-    using QTableView::show;
-
-private:
-    void addButton(const QModelIndex &cell)
-    {
-        setIndexWidget(cell, new QPushButton(QStringLiteral("Run")));
-    }
-};
-
-void goThroughEvents()
-{
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
 
 int rows(const benchmark::State &state)
 {
     return static_cast<int>(state.range(0));
 }
 
-template <class Table> void setModelShown(benchmark::State &state)
+template <class Table> void show(Table *table, int rowCount)
+{
+    table->resize(400, 300);
+    table->prepare(rowCount);
+    table->fill();
+    table->show();
+    settle();
+}
+
+template <class Table> void fillShown(benchmark::State &state)
 {
     for (auto _ : state) {
-        state.PauseTiming();
-        {
-            QStandardItemModel model(rows(state), 2);
-            Table table;
-            table.resize(400, 300);
-            table.show();
-            goThroughEvents();
-            state.ResumeTiming();
+        std::unique_ptr<Pause> pause(new Pause(state));
+        Table table;
+        table.resize(400, 300);
+        table.prepare(rows(state));
+        table.show();
+        settle();
+        pause.reset();
 
-            table.show(&model);
-            goThroughEvents();
+        table.fill();
+        settle();
 
-            state.PauseTiming();
-        }
-        state.ResumeTiming();
+        pause.reset(new Pause(state));
     }
 }
 
-template <class Table> void setModelHiddenThenShow(benchmark::State &state)
+template <class Table> void fillHiddenThenShow(benchmark::State &state)
 {
     for (auto _ : state) {
-        state.PauseTiming();
-        {
-            QStandardItemModel model(rows(state), 2);
-            Table table;
-            table.resize(400, 300);
-            state.ResumeTiming();
+        std::unique_ptr<Pause> pause(new Pause(state));
+        Table table;
+        table.resize(400, 300);
+        table.prepare(rows(state));
+        pause.reset();
 
-            table.show(&model);
-            table.show();
-            goThroughEvents();
+        table.fill();
+        table.show();
+        settle();
 
-            state.PauseTiming();
-        }
-        state.ResumeTiming();
+        pause.reset(new Pause(state));
     }
 }
 
@@ -119,64 +64,173 @@ template <class Table> void appendBurst(benchmark::State &state)
 {
     const int burst = 50;
     for (auto _ : state) {
-        state.PauseTiming();
-        {
-            QStandardItemModel model(rows(state), 2);
-            Table table;
-            table.resize(400, 300);
-            table.show(&model);
-            table.show();
-            goThroughEvents();
-            state.ResumeTiming();
+        std::unique_ptr<Pause> pause(new Pause(state));
+        Table table;
+        show(&table, rows(state));
+        pause.reset();
 
-            for (int i = 0; i < burst; ++i) {
-                table.append(&model);
-            }
-            goThroughEvents();
-
-            state.PauseTiming();
+        for (int i = 0; i < burst; ++i) {
+            table.append();
         }
-        state.ResumeTiming();
+        settle();
+
+        pause.reset(new Pause(state));
     }
 }
 
-template <class Function>
-void measure(const char *name, Function function, int rowCount, int iterations)
+/// What a row costs in memory, with the model, once it has been on the screen.
+template <class Table> void memory(benchmark::State &state)
 {
-    benchmark::RegisterBenchmark(name, function)
-        ->Arg(rowCount)
-        ->Iterations(iterations)
-        ->MeasureProcessCPUTime()
-        ->Unit(benchmark::kMillisecond);
+    for (auto _ : state) {
+        {
+            Table first; // fills the style's and the fonts' caches
+            show(&first, 100);
+        }
+        const double before = bytesInUse();
+        Table table;
+        show(&table, rows(state));
+        state.counters["bytes"] = (bytesInUse() - before) / rows(state);
+    }
+}
+
+template <class Table> void measureTable(const std::string &name)
+{
+    measure(name + "/fillShown", fillShown<Table>, {1000}, 4);
+    measure(name + "/fillShown", fillShown<Table>, {10000}, 1);
+    measure(name + "/fillHidden", fillHiddenThenShow<Table>, {10000}, 1);
+    measure(name + "/appendBurst", appendBurst<Table>, {1000}, 4);
+    measure(name + "/memory", memory<Table>, {10000}, 1);
+}
+
+/// The lines that hold our table against another.
+void compare(std::vector<Comparison> *comparisons, const std::string &title,
+             const std::string &name, double mostShown, double mostHidden, double mostAppended)
+{
+    const auto add = [&](const std::string &what, const std::string &run, double most) {
+        comparisons->push_back({what + " / " + title, "table/" + run, name + "/" + run, most});
+    };
+    add("1,000 button rows in a shown view", "fillShown/1000", mostShown);
+    add("10,000 button rows in a shown view", "fillShown/10000", mostShown);
+    add("10,000 in a hidden view, first show", "fillHidden/10000", mostHidden);
+    add("50 rows appended to 1,000, shown", "appendBurst/1000", mostAppended);
+    add("bytes per button row", "memory/10000:bytes", 0);
+}
+
+/// A shown view with an editor for the cells of its first column.
+class OurEdits : public EditableTableView
+{
+public:
+    OurEdits()
+    {
+        setColumns(QStringList() << "editbox");
+    }
+
+    using EditableTableView::edit;
+};
+
+class ToolkitEdits : public QTableView
+{
+public:
+    ToolkitEdits()
+    {
+        setItemDelegateForColumn(0, &delegate);
+    }
+
+    using QTableView::edit;
+
+private:
+    QItemDelegate delegate;
+};
+
+template <class View> class EditedCell
+{
+public:
+    EditedCell()
+        : model(10, 2)
+        , cell(model.index(0, 0))
+    {
+        view.setModel(&model);
+        view.resize(400, 300);
+        view.show();
+        settle();
+    }
+
+    /// What a delegate does from the creation of an editor to its end.
+    void throughDelegate(int number)
+    {
+        QAbstractItemDelegate *delegate = view.itemDelegateForColumn(0);
+        QStyleOptionViewItem option;
+        option.rect = view.visualRect(cell);
+        QWidget *editor = delegate->createEditor(view.viewport(), option, cell);
+        delegate->updateEditorGeometry(editor, option, cell);
+        delegate->setEditorData(editor, cell);
+        static_cast<QLineEdit *>(editor)->setText(QString::number(number));
+        delegate->setModelData(editor, &model, cell);
+        delete editor;
+    }
+
+    /// All that the user sees: the editor opens, takes a text and closes with the Return key.
+    void throughView(int number)
+    {
+        view.edit(cell);
+        QLineEdit *editor = static_cast<QLineEdit *>(view.indexWidget(cell));
+        editor->setText(QString::number(number));
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QCoreApplication::sendEvent(editor, &press);
+        settle();
+    }
+
+private:
+    QStandardItemModel model;
+    View view;
+    const QPersistentModelIndex cell;
+};
+
+template <class View, void (EditedCell<View>::*edit)(int)> void editing(benchmark::State &state)
+{
+    EditedCell<View> cell;
+    int number = 0;
+    for (auto _ : state) {
+        (cell.*edit)(++number);
+    }
+}
+
+template <class View> void measureEditing(const std::string &name)
+{
+    measure(name + "/editByDelegate", editing<View, &EditedCell<View>::throughDelegate>, {}, 300);
+    measure(name + "/editByView", editing<View, &EditedCell<View>::throughView>, {}, 100);
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (qgetenv("QT_QPA_PLATFORM").isEmpty()) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    choosePlatform();
     QApplication application(argc, argv);
 
-    measure("table/setModelShown", setModelShown<DeclaredTable>, 1000, 4);
-    measure("plain/setModelShown", setModelShown<PlainTable>, 1000, 4);
-    measure("table/setModelShown", setModelShown<DeclaredTable>, 10000, 1);
-    measure("plain/setModelShown", setModelShown<PlainTable>, 10000, 1);
-    measure("table/setModelHidden", setModelHiddenThenShow<DeclaredTable>, 10000, 1);
-    measure("plain/setModelHidden", setModelHiddenThenShow<PlainTable>, 10000, 1);
-    measure("table/appendBurst", appendBurst<DeclaredTable>, 1000, 4);
-    measure("plain/appendBurst", appendBurst<PlainTable>, 1000, 4);
+    measureConstruction<EditableTableView>("table/construction");
+    measureConstruction<QTableView>("plain/construction");
+    measureEditing<OurEdits>("table");
+    measureEditing<ToolkitEdits>("plain");
+    measureTable<ButtonTables::Declared>("table");
+    measureTable<ButtonTables::IndexWidgets>("indexWidgets");
+    measureTable<ButtonTables::CellWidgets>("cellWidgets");
+    measureTable<ButtonTables::Painted>("painted");
+    measure("table/fillShown", fillShown<ButtonTables::Declared>, {100}, 20);
+    measure("table/fillShown", fillShown<ButtonTables::Declared>, {50000}, 1);
+    measure("indexWidgets/fillShown", fillShown<ButtonTables::IndexWidgets>, {100}, 20);
 
-    return runBenchmarks(argc, argv,
-                         {{"setModel on a shown view, 1,000 rows", "table/setModelShown/1000",
-                           "plain/setModelShown/1000", 1.0, 0},
-                          {"setModel on a shown view, 10,000 rows", "table/setModelShown/10000",
-                           "plain/setModelShown/10000", 1.0, 0},
-                          {"its growth exponent, 1,000 to 10,000 rows", "table/setModelShown/10000",
-                           "table/setModelShown/1000", 1.1, 10},
-                          {"setModel on a hidden view and first show, 10,000 rows",
-                           "table/setModelHidden/10000", "plain/setModelHidden/10000", 0.85, 0},
-                          {"appending 50 rows to a shown view with 1,000 buttons",
-                           "table/appendBurst/1000", "plain/appendBurst/1000", 0.15, 0}});
+    std::vector<Comparison> comparisons
+        = {{"construction / QTableView", "table/construction", "plain/construction", 1.1},
+           {"an edit by EditItemDelegate / QItemDelegate", "table/editByDelegate",
+            "plain/editByDelegate", 0.95},
+           {"the same in a shown view / QItemDelegate", "table/editByView", "plain/editByView", 0}};
+    compare(&comparisons, "setIndexWidget", "indexWidgets", 1.0, 0.85, 0.15);
+    compare(&comparisons, "QTableWidget with cell widgets", "cellWidgets", 0, 0, 0);
+    compare(&comparisons, "painted buttons", "painted", 0, 0, 0);
+    return runBenchmarks(
+        argc, argv, comparisons,
+        {{"1,000 to 10,000 button rows", "table/fillShown", {1000, 10000}, 1.1},
+         {"100 to 50,000 button rows", "table/fillShown", {100, 1000, 10000, 50000}, 0},
+         {"setIndexWidget, 100 to 10,000 rows", "indexWidgets/fillShown", {100, 1000, 10000}, 0}});
 }

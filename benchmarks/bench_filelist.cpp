@@ -1,165 +1,20 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-// What a page costs that arrives in a FileListTableView which already holds many rows, beside a
-// plain table view, without a button, whose model gets the same rows.
+// What a FileListTableView costs: its construction, and a page that arrives when it already holds
+// many rows, beside the toolkit's lists, which have no button.
+#include "FileLists.h"
 #include "RatioReporter.h"
-#include "settle.h"
-
-#include <FileListTableView.h>
+#include "measure.h"
 
 #include <QApplication>
-#include <QHeaderView>
-#include <QScrollBar>
-#include <QStandardItemModel>
 
-#include <array>
 #include <map>
-#include <memory>
 
 namespace {
-
-const int columns = 5;
-const int pageRows = 1000;
-const int fixedWidths[] = {120, 70, 55, 65};
-
-/// A page in one insertion of rows without items, or each row with its items, as a simple
-/// application inserts them.
-enum class Insertion { AtOnce, RowByRow };
 
 enum class Position { Top, End };
 
 /// What of a page is measured: all until it is painted, or the insertion alone, as a model sees it.
 enum class Extent { UntilPainted, InsertionAlone };
-
-} // namespace
-
-/// A list of files without an item per cell, so that as little as possible of what is measured is
-/// the model's own doing.
-class FileModel : public QStandardItemModel
-{
-    Q_OBJECT
-
-public:
-    FileModel()
-        : QStandardItemModel(0, columns)
-        , insertion(Insertion::AtOnce)
-    {
-        for (int i = 0; i < pageRows; ++i) {
-            texts.push_back({{QStringLiteral("photograph-%1.jpg").arg(i),
-                              QStringLiteral("2021-03-%1 10:20").arg(i % 28 + 1),
-                              QStringLiteral("%1 KB").arg(i), QStringLiteral("copied"),
-                              QStringLiteral("0644")}});
-        }
-    }
-
-    void appendEmptyRow()
-    {
-        appendRow(QList<QStandardItem *>());
-    }
-
-    void insertFiles(int count)
-    {
-        for (int i = 0; i < count; ++i) {
-            files.push_back(static_cast<int>(files.size()) % pageRows);
-        }
-        if (insertion == Insertion::AtOnce) {
-            insertRows(rowCount() - 1, count);
-            return;
-        }
-        for (int i = 0; i < count; ++i) {
-            QList<QStandardItem *> items;
-            for (const QString &text : texts[static_cast<std::size_t>(i % pageRows)]) {
-                items.append(new QStandardItem(text));
-            }
-            insertRow(rowCount() - 1, items);
-        }
-    }
-
-    void removePage()
-    {
-        removeRows(rowCount() - 1 - pageRows, pageRows);
-        files.resize(files.size() - pageRows);
-    }
-
-    QVariant data(const QModelIndex &index, int role) const override
-    {
-        const std::size_t row = static_cast<std::size_t>(index.row());
-        if (role != Qt::DisplayRole || row >= files.size()) {
-            return QVariant();
-        }
-        const std::array<QString, columns> &fileTexts = texts[static_cast<std::size_t>(files[row])];
-        return fileTexts[static_cast<std::size_t>(index.column())];
-    }
-
-    Insertion insertion;
-
-public Q_SLOTS:
-    void LoadItems()
-    {
-        insertFiles(pageRows);
-        emit pageLoaded(pageRows, false);
-    }
-
-Q_SIGNALS:
-    void pageLoaded(qint64 count, bool completed);
-    void dataChanged();
-
-private:
-    std::vector<std::array<QString, columns>> texts;
-    std::vector<int> files; ///< Which of the texts a row has.
-};
-
-namespace {
-
-/// Our list.
-class PagedList : public FileListTableView
-{
-public:
-    void fill(FileModel *model, int rowCount)
-    {
-        setModel(model);
-        model->insertFiles(rowCount);
-    }
-
-    void loadPage(FileModel *)
-    {
-        StartLoadingData();
-    }
-};
-
-/// The baseline: a table view that is set up the same way, once and for all.
-class PlainList : public QTableView
-{
-public:
-    void fill(FileModel *model, int rowCount)
-    {
-        horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
-        horizontalHeader()->setHighlightSections(false);
-        setEditTriggers(QAbstractItemView::NoEditTriggers);
-        setSelectionMode(QAbstractItemView::NoSelection);
-        setSelectionBehavior(QAbstractItemView::SelectRows);
-        verticalHeader()->hide();
-        verticalHeader()->setMinimumSectionSize(18);
-        verticalHeader()->setDefaultSectionSize(18);
-        setWordWrap(false);
-        setShowGrid(false);
-        setSortingEnabled(true);
-
-        setModel(model);
-        horizontalHeader()->setSortIndicatorShown(false);
-        horizontalHeader()->resizeSection(0, width() - verticalScrollBar()->width() - 315);
-        int column = 0;
-        for (int sectionWidth : fixedWidths) {
-            horizontalHeader()->resizeSection(++column, sectionWidth);
-        }
-        model->appendEmptyRow();
-        model->insertFiles(rowCount);
-    }
-
-    void loadPage(FileModel *model)
-    {
-        model->LoadItems();
-    }
-};
 
 /// A view on so many rows. It has had a page before, so nothing is done for the first time.
 template <class View> class ShownList
@@ -168,129 +23,165 @@ public:
     explicit ShownList(int rowCount)
     {
         view.resize(600, 400);
-        view.fill(&model, rowCount);
+        view.fill(rowCount);
         view.show();
         settle();
-        loadPage();
+        insertPage(Insertion::AtOnce);
+        settle();
         removePage();
     }
 
-    void prepare(Insertion insertion, Position position)
+    void scrollTo(Position position)
     {
-        model.insertion = insertion;
         QScrollBar *bar = view.verticalScrollBar();
         bar->setValue(position == Position::Top ? 0 : bar->maximum());
         settle();
     }
 
-    void loadPage()
+    void insertPage(Insertion insertion)
     {
-        insertPage();
-        settle();
-    }
-
-    void insertPage()
-    {
-        view.loadPage(&model);
+        view.insertPage(insertion);
     }
 
     void removePage()
     {
-        model.removePage();
+        view.removePage();
         settle();
     }
 
 private:
-    FileModel model;
     View view;
 };
 
-/// Lists of all sizes, each made when it is first asked for: half a million rows take a while.
-template <class View> class Lists
+/// A list of that size, made when it is first asked for: half a million rows take a while. They are
+/// never destroyed, because the application goes first.
+template <class View> ShownList<View> &listOf(int rowCount)
 {
-public:
-    ShownList<View> &withRows(int rowCount)
-    {
-        std::unique_ptr<ShownList<View>> &list = lists[rowCount];
-        if (!list) {
-            list.reset(new ShownList<View>(rowCount));
-        }
-        return *list;
+    static std::map<int, ShownList<View> *> lists;
+    ShownList<View> *&list = lists[rowCount];
+    if (!list) {
+        list = new ShownList<View>(rowCount);
     }
-
-private:
-    std::map<int, std::unique_ptr<ShownList<View>>> lists;
-};
+    return *list;
+}
 
 template <class View>
-void measure(const char *name, Lists<View> &lists, int rowCount, Insertion insertion,
-             Position position, int iterations, Extent extent = Extent::UntilPainted)
+void measurePage(const std::string &name, int rowCount, int iterations,
+                 Insertion insertion = Insertion::AtOnce, Position position = Position::End,
+                 Extent extent = Extent::UntilPainted)
 {
-    benchmark::RegisterBenchmark(name,
-                                 [&lists, insertion, position, extent](benchmark::State &state) {
-                                     ShownList<View> &list
-                                         = lists.withRows(static_cast<int>(state.range(0)));
-                                     for (auto _ : state) {
-                                         state.PauseTiming();
-                                         list.prepare(insertion, position);
-                                         state.ResumeTiming();
+    measure(
+        name,
+        [insertion, position, extent](benchmark::State &state) {
+            ShownList<View> &list = listOf<View>(static_cast<int>(state.range(0)));
+            list.scrollTo(position);
+            for (auto _ : state) {
+                list.insertPage(insertion);
+                if (extent == Extent::UntilPainted) {
+                    settle();
+                }
+                const Pause pause(state);
+                settle();
+                list.removePage();
+                list.scrollTo(position);
+            }
+        },
+        {rowCount}, iterations);
+}
 
-                                         if (extent == Extent::UntilPainted) {
-                                             list.loadPage();
-                                         } else {
-                                             list.insertPage();
-                                         }
-                                         state.PauseTiming();
-                                         settle();
-                                         list.removePage();
-                                         state.ResumeTiming();
-                                     }
-                                 })
-        ->Arg(rowCount)
-        ->Iterations(iterations)
-        ->MeasureProcessCPUTime()
-        ->Unit(benchmark::kMillisecond);
+/// What of our construction is the toolkit's own: by far the most is switching the sorting on.
+class SortedTable : public QTableView
+{
+public:
+    SortedTable()
+    {
+        setSortingEnabled(true);
+    }
+};
+
+/// What a row costs in memory, with the model.
+template <class View> void memory(benchmark::State &state)
+{
+    const int rowCount = static_cast<int>(state.range(0));
+    fileText(0, 0);
+    for (auto _ : state) {
+        {
+            const ShownList<View> first(100); // fills the style's and the fonts' caches
+        }
+        const double before = bytesInUse();
+        const ShownList<View> list(rowCount);
+        state.counters["bytes"] = (bytesInUse() - before) / rowCount;
+    }
+}
+
+template <class View> void measureList(const std::string &name)
+{
+    measurePage<View>(name + "/page", 100000, 20);
+    measure(name + "/memory", memory<View>, {10000}, 1);
+}
+
+void measureInsertions(int rowCount)
+{
+    const Insertion rowByRow = Insertion::RowByRow;
+    measurePage<FileLists::Paged>("list/insertion", rowCount, 20, rowByRow, Position::End,
+                                  Extent::InsertionAlone);
+    measurePage<FileLists::Paged>("list/rowByRow", rowCount, 20, rowByRow);
+    measurePage<FileLists::Plain>("plain/rowByRow", rowCount, 20, rowByRow);
+}
+
+/// The lines that hold our list against another.
+void compare(std::vector<Comparison> *comparisons, const std::string &title,
+             const std::string &name, double most)
+{
+    comparisons->push_back({"a page at 100,000 rows, until painted / " + title, "list/page/100000",
+                            name + "/page/100000", most});
+    comparisons->push_back({"bytes per list row / " + title, "list/memory/10000:bytes",
+                            name + "/memory/10000:bytes", 0});
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (qgetenv("QT_QPA_PLATFORM").isEmpty()) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    choosePlatform();
     QApplication application(argc, argv);
-    Lists<PagedList> lists;
-    Lists<PlainList> plainLists;
+    const std::vector<int> sizes = {1000, 10000, 100000, 500000};
 
-    for (int rowCount : {10000, 100000, 500000}) {
-        measure("list/insertion", lists, rowCount, Insertion::RowByRow, Position::End, 20,
-                Extent::InsertionAlone);
-        measure("list/rowByRow", lists, rowCount, Insertion::RowByRow, Position::End, 20);
-        measure("plain/rowByRow", plainLists, rowCount, Insertion::RowByRow, Position::End, 20);
-        measure("list/page", lists, rowCount, Insertion::AtOnce, Position::End, 40);
-        measure("plain/page", plainLists, rowCount, Insertion::AtOnce, Position::End, 40);
-        measure("list/pageAtTop", lists, rowCount, Insertion::AtOnce, Position::Top, 40);
-        measure("plain/pageAtTop", plainLists, rowCount, Insertion::AtOnce, Position::Top, 40);
+    measureConstruction<FileListTableView>("list/construction");
+    measureConstruction<QTableView>("plain/construction");
+    measureConstruction<SortedTable>("sorted/construction");
+    measureList<FileLists::Paged>("list");
+    measureList<FileLists::Plain>("plain");
+    measureList<FileLists::OfVector>("vector");
+    measureList<FileLists::OfTableItems>("tableItems");
+    measureList<FileLists::OfTreeItems>("treeItems");
+    for (int rowCount : sizes) {
+        measureInsertions(rowCount);
     }
+    measurePage<FileLists::Paged>("list/pageAtTop", 100000, 40, Insertion::AtOnce, Position::Top);
+    measurePage<FileLists::Plain>("plain/pageAtTop", 100000, 40, Insertion::AtOnce, Position::Top);
 
     // Inserting is the list's part and has to be flat. That painting is not is the header's doing:
     // after an insertion it adds up all rows once, in the plain view too.
+    std::vector<Comparison> comparisons = {
+        {"construction / QTableView", "list/construction", "plain/construction", 0},
+        {"construction / QTableView, sorting on", "list/construction", "sorted/construction", 1.1},
+        {"a page row by row at 100,000 rows, until painted / QTableView", "list/rowByRow/100000",
+         "plain/rowByRow/100000", 1.15},
+        {"the insertion alone, at 500,000 rows / at 10,000", "list/insertion/500000",
+         "list/insertion/10000", 1.1},
+        {"until painted, at 500,000 rows / at 10,000", "list/rowByRow/500000",
+         "list/rowByRow/10000", 0},
+        {"the same in a QTableView", "plain/rowByRow/500000", "plain/rowByRow/10000", 0},
+        {"a page at 100,000 rows, the view at the top / QTableView", "list/pageAtTop/100000",
+         "plain/pageAtTop/100000", 1.15}};
+    compare(&comparisons, "QTableView", "plain", 1.15);
+    compare(&comparisons, "QAbstractTableModel", "vector", 0);
+    compare(&comparisons, "QTableWidget", "tableItems", 0);
+    compare(&comparisons, "QTreeWidget", "treeItems", 0);
     return runBenchmarks(
-        argc, argv,
-        {{"a page row by row at 100,000 rows, until painted", "list/rowByRow/100000",
-          "plain/rowByRow/100000", 1.15, 0},
-         {"the insertion alone, 500,000 rows beside 10,000", "list/insertion/500000",
-          "list/insertion/10000", 1.1, 0},
-         {"until painted, 500,000 rows beside 10,000", "list/rowByRow/500000",
-          "list/rowByRow/10000", 0, 0},
-         {"the same in the plain view", "plain/rowByRow/500000", "plain/rowByRow/10000", 0, 0},
-         {"a page at once at 100,000 rows", "list/page/100000", "plain/page/100000", 1.15, 0},
-         {"at the top, where the button is out of sight", "list/pageAtTop/100000",
-          "plain/pageAtTop/100000", 1.15, 0},
-         {"at 500,000 rows", "list/page/500000", "plain/page/500000", 1.15, 0},
-         {"at 500,000 rows, beside 10,000", "list/page/500000", "list/page/10000", 0, 0},
-         {"the same in the plain view", "plain/page/500000", "plain/page/10000", 0, 0}});
+        argc, argv, comparisons,
+        {{"insertion of a page, 1,000 to 500,000 list rows", "list/insertion", sizes, 0},
+         {"until painted", "list/rowByRow", sizes, 0},
+         {"until painted in a QTableView", "plain/rowByRow", sizes, 0}});
 }
-
-#include "bench_filelist.moc"
