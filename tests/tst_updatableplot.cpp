@@ -101,6 +101,7 @@ private Q_SLOTS:
     void fillsTheCurveTranslucently();
     void repaintsAShownCanvasInItsNewColor();
     void takesTitlesAsPlainText();
+    void countsFromItsStartInUniversalTime();
     void addsASampleAtTheCurrentSecond();
     void keepsOneSampleASecond();
     void movesTheTimeAxisWithTheClock();
@@ -123,6 +124,7 @@ void UpdatablePlotTest::initTestCase()
     QVERIFY(qAbs(QDateTime::currentDateTime().secsTo(now)) <= 60);
     QVERIFY(PlotClock::startTime <= now); // taken before main()
     QVERIFY(PlotClock::startTime.secsTo(now) <= 60);
+    QCOMPARE(now.timeSpec(), Qt::UTC);
     PlotClock::currentDateTime = pretendedTime;
 }
 
@@ -351,6 +353,13 @@ void UpdatablePlotTest::takesTitlesAsPlainText()
     // Plain text is as high as its letters; rich text would take a document's margins.
     QCOMPARE(plot.axisTitle(QwtPlot::xBottom).textSize(QFont()),
              QwtText("<b>Time</b>", QwtText::PlainText).textSize(QFont()));
+}
+
+void UpdatablePlotTest::countsFromItsStartInUniversalTime()
+{
+    QCOMPARE(PlotClock::startTime.timeSpec(), Qt::LocalTime);
+    QCOMPARE(PlotClock::startTimeUtc.timeSpec(), Qt::UTC);
+    QCOMPARE(PlotClock::startTimeUtc.toMSecsSinceEpoch(), PlotClock::startTime.toMSecsSinceEpoch());
 }
 
 void UpdatablePlotTest::addsASampleAtTheCurrentSecond()

@@ -1,20 +1,12 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PlotClock.h"
 
-namespace {
-
-QDateTime wallClock()
-{
-    return QDateTime::currentDateTime();
-}
-
-} // namespace
-
 namespace PlotClock {
 
-// Loading the library is the event that counts, so this has to be a static object.
-const QDateTime startTime = wallClock(); // clazy:exclude=non-pod-global-static
+// Loading the library is the event that counts, so these have to be static objects.
+const QDateTime startTime = QDateTime::currentDateTime(); // clazy:exclude=non-pod-global-static
+const QDateTime startTimeUtc = startTime.toUTC(); // clazy:exclude=non-pod-global-static
 
-QDateTime (*currentDateTime)() = wallClock;
+QDateTime (*currentDateTime)() = QDateTime::currentDateTimeUtc;
 
 } // namespace PlotClock

@@ -10,7 +10,11 @@ namespace PlotClock {
 /// When the chart's code was loaded, in local time. The time axis of every plot counts from here.
 extern const QDateTime startTime;
 
-/// Tells the time of day: QDateTime::currentDateTime(), unless a test puts its own clock here.
+/// The same moment in UTC, to count seconds from: at each conversion of a local time the C library
+/// asks the system whether the time zone has changed.
+extern const QDateTime startTimeUtc;
+
+/// Tells the time: QDateTime::currentDateTimeUtc(), unless a test puts its own clock here.
 extern QDateTime (*currentDateTime)();
 
 } // namespace PlotClock

@@ -109,7 +109,8 @@ void UpdatablePlot::updateData(const QVariant &val)
         qDebug("Invalid value.");
         return;
     }
-    const int now = PlotSamples::secondsSince(PlotClock::startTime, PlotClock::currentDateTime());
+    const int now
+        = PlotSamples::secondsSince(PlotClock::startTimeUtc, PlotClock::currentDateTime());
     samples.insert(now, sample);
     PlotSamples::prune(&samples, now);
 
