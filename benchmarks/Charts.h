@@ -131,7 +131,7 @@ public:
 private:
     static QDateTime drivenTime()
     {
-        return PlotClock::startTime.addSecs(now());
+        return PlotClock::startTimeUtc.addSecs(now());
     }
 
     /// Of all such charts: there is one clock, and each sets it before it uses it.

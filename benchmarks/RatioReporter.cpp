@@ -24,6 +24,7 @@ std::string quantity(const std::string &run, double value)
 void printLine(const std::string &what, const std::string &ours, const std::string &baseline,
                double ratio, double most)
 {
+    ratio = std::round(ratio * 100) / 100 + 0.0; // no "-0.00"
     const bool isMissed = most > 0 && ratio > most;
     std::printf("| %-66s | %9s | %9s | %8s | %7s |\n", what.c_str(), ours.c_str(), baseline.c_str(),
                 formatted(isMissed ? "**%.2f**" : "%.2f", ratio).c_str(),

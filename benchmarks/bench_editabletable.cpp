@@ -205,7 +205,7 @@ template <class View> void measureEditing(const std::string &name)
 
 int main(int argc, char **argv)
 {
-    choosePlatform();
+    prepareProcess();
     QApplication application(argc, argv);
 
     measureConstruction<EditableTableView>("table/construction");

@@ -143,7 +143,7 @@ void compare(std::vector<Comparison> *comparisons, const std::string &title,
 
 int main(int argc, char **argv)
 {
-    choosePlatform();
+    prepareProcess();
     QApplication application(argc, argv);
     const std::vector<int> sizes = {1000, 10000, 100000, 500000};
 

@@ -46,7 +46,8 @@ void measureStart(const std::string &name, const std::string &path)
                                          state.SetIterationTime(time);
                                      }
                                  })
-        ->Iterations(20)
+        ->Iterations(1)
+        ->Repetitions(200) // short runs, of which many are disturbed
         ->UseManualTime()
         ->Unit(benchmark::kMicrosecond);
 }

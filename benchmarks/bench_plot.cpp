@@ -64,10 +64,11 @@ template <class Plot> void sample(benchmark::State &state)
     }
 }
 
-template <class Plot> void measureSamples(const std::string &name)
+template <class Plot> void measureSamples(const std::string &name, int repetitions = 0)
 {
-    measure(name + "/sample", sample<Plot>, {180, 140, Charts::shownSamples}, 50);
-    measure(name + "/sample", sample<Plot>, {800, 400, Charts::shownSamples}, 50);
+    const int most = Charts::shownSamples;
+    measure(name + "/sample", sample<Plot>, {180, 140, most}, 10, repetitions);
+    measure(name + "/sample", sample<Plot>, {800, 400, most}, 10, repetitions);
 }
 
 template <class Plot> void measureFewSamples(const std::string &name)
@@ -90,13 +91,13 @@ void compare(std::vector<Comparison> *comparisons, const std::string &title,
 
 int main(int argc, char **argv)
 {
-    choosePlatform();
+    prepareProcess();
     QApplication application(argc, argv);
 
     measureConstruction<UpdatablePlot>("chart/construction");
     measureConstruction<QwtPlot>("bare/construction");
-    measureSamples<Charts::Updatable>("chart");
-    measureSamples<Charts::Bare>("bare");
+    measureSamples<Charts::Updatable>("chart", 75);
+    measureSamples<Charts::Bare>("bare", 75);
     measureFewSamples<Charts::Updatable>("chart");
     measureFewSamples<Charts::Bare>("bare");
 #ifdef BENCH_QCUSTOMPLOT

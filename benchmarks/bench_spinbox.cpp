@@ -46,7 +46,7 @@ template <class Box> void measureBox(const std::string &name)
 
 int main(int argc, char **argv)
 {
-    choosePlatform();
+    prepareProcess();
     QApplication application(argc, argv);
 
     measureBox<SpinBox>("spinBox");
