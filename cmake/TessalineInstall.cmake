@@ -10,17 +10,18 @@ set(TESSALINE_DATA_DIR ${CMAKE_INSTALL_DATADIR}/${package})
 
 # Where the Designer of this Qt looks, if the library goes where this Qt is. Elsewhere a folder that
 # QT_PLUGIN_PATH can name.
+set(TESSALINE_PLUGINS_DIR "" CACHE STRING
+    "Folder under the prefix whose subfolder \"designer\" takes the plug-in; empty: by the prefix")
+set(plugins_dir "${TESSALINE_PLUGINS_DIR}")
 string(FIND "${TESSALINE_QT_PLUGINS}/" "${CMAKE_INSTALL_PREFIX}/" place)
-if(CMAKE_INSTALL_PREFIX STREQUAL TESSALINE_QT_PREFIX AND place EQUAL 0)
+if(NOT plugins_dir AND CMAKE_INSTALL_PREFIX STREQUAL TESSALINE_QT_PREFIX AND place EQUAL 0)
     file(RELATIVE_PATH plugins_dir "${CMAKE_INSTALL_PREFIX}" "${TESSALINE_QT_PLUGINS}")
-else()
+elseif(NOT plugins_dir)
     set(plugins_dir ${CMAKE_INSTALL_LIBDIR}/qt${TESSALINE_QT}/plugins)
 endif()
-set(TESSALINE_PLUGINS_DIR "${plugins_dir}" CACHE STRING
-    "Folder under the prefix in whose subfolder \"designer\" the plug-in is installed")
 
 string(JOIN " " folders ${config_dir} ${CMAKE_INSTALL_LIBDIR}/pkgconfig ${TESSALINE_INCLUDE_DIR}
-    ${TESSALINE_DATA_DIR}/translations ${TESSALINE_PLUGINS_DIR}/designer)
+    ${TESSALINE_DATA_DIR}/translations ${plugins_dir}/designer)
 configure_file(cmake/record-folders.cmake.in record-folders.cmake @ONLY)
 install(SCRIPT "${CMAKE_CURRENT_BINARY_DIR}/record-folders.cmake")
 
@@ -73,13 +74,13 @@ install(FILES ${TESSALINE_TRANSLATIONS} DESTINATION ${TESSALINE_DATA_DIR}/transl
 
 # The plug-in is a link to the library: as a copy, a program that links the library and loads its
 # plug-in would have everything twice.
-file(RELATIVE_PATH library_dir "/${TESSALINE_PLUGINS_DIR}/designer" "/${CMAKE_INSTALL_LIBDIR}")
+file(RELATIVE_PATH library_dir "/${plugins_dir}/designer" "/${CMAKE_INSTALL_LIBDIR}")
 set(plugin "lib${package}.so")
 file(MAKE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin")
 file(CREATE_LINK "${library_dir}${plugin}.${PROJECT_VERSION_MAJOR}"
     "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}" SYMBOLIC)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}"
-    DESTINATION ${TESSALINE_PLUGINS_DIR}/designer COMPONENT development)
+    DESTINATION ${plugins_dir}/designer COMPONENT development)
 
 configure_file(cmake/uninstall.cmake.in uninstall.cmake @ONLY)
 if(NOT TARGET uninstall)

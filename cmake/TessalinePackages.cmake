@@ -23,7 +23,6 @@ foreach(component IN ITEMS runtime development)
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${${component}_package}
         COMPONENT ${component} EXCLUDE_FROM_ALL)
 endforeach()
-
 install(FILES packaging/lintian-overrides DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides
     RENAME ${runtime_package} COMPONENT runtime EXCLUDE_FROM_ALL)
 
@@ -57,7 +56,6 @@ if(TESSALINE_HAS_PLOT)
     string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS ", libqwt-qt${TESSALINE_QT}-dev")
 endif()
 string(CONCAT CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "${package_description}"
-    "This package holds the headers, the files for CMake and pkg-config, and the
-"
+    "This package holds the headers, the files for CMake and pkg-config, and the\n"
     "plug-in for Qt Designer.")
 include(CPack)
