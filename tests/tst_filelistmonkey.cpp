@@ -71,6 +71,7 @@ private:
     void deleteModel();
     void replaceView();
     void resizeTwice();
+    void showSortArrow();
 
     void forgetModel();
     void deliverToMonkey();
@@ -129,6 +130,7 @@ FileListMonkey::FileListMonkey(quint32 seed)
     can(8, "deleteModel", &FileListMonkey::deleteModel);
     can(3, "replaceView", &FileListMonkey::replaceView);
     can(10, "resizeTwice", &FileListMonkey::resizeTwice);
+    can(5, "showSortArrow", &FileListMonkey::showSortArrow);
 }
 
 FileListMonkey::~FileListMonkey()
@@ -289,7 +291,9 @@ void FileListMonkey::changeRow()
     }
     QStandardItem *item = model->item(dice.below(model->rowCount()), 0);
     if (item && dice.oneIn(20)) {
-        item->appendRow(new QStandardItem("child"));
+        while (item->rowCount() < model->rowCount()) {
+            item->appendRow(new QStandardItem("child"));
+        }
     } else if (item) {
         item->setText(QString::number(dice.below(1000)));
     }
@@ -386,6 +390,17 @@ void FileListMonkey::resizeTwice()
     goThroughEvents();
     goThroughEvents();
     lookAtWidths();
+}
+
+// Switching the sorting on anew shows the arrow, until the next click.
+void FileListMonkey::showSortArrow()
+{
+    view->setSortingEnabled(true);
+    if (header()->count() > 0 && header()->sectionSize(1) > 10) {
+        QMetaObject::invokeMethod(header(), "sectionClicked", Q_ARG(int, 1));
+    } else {
+        header()->setSortIndicatorShown(false);
+    }
 }
 
 void FileListMonkey::forgetModel()

@@ -35,6 +35,7 @@ GridModel::GridModel(int rows, int columns, QObject *parent)
     , cells(static_cast<std::size_t>(rows), Row(static_cast<std::size_t>(columns)))
     , width(columns)
     , changing(false)
+    , foreignColumn(-1)
 {
 }
 
@@ -61,6 +62,10 @@ QVariant GridModel::data(const QModelIndex &index, int role) const
 
 bool GridModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
+    if (index.isValid() && index.model() != this) {
+        foreignColumn = index.column();
+        return false;
+    }
     if (!index.isValid() || index.row() >= rowCount() || index.column() >= width) {
         return false;
     }
@@ -181,4 +186,11 @@ void GridModel::startAnew(int rows, int columns)
 bool GridModel::isChanging() const
 {
     return changing;
+}
+
+int GridModel::takeForeignColumn()
+{
+    const int column = foreignColumn;
+    foreignColumn = -1;
+    return column;
 }

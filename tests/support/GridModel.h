@@ -33,6 +33,10 @@ public:
     /// Starts anew with empty cells.
     void startAnew(int rows, int columns);
 
+    /// The column of the last write to a cell of another model, -1 if there was none. Asking
+    /// forgets it.
+    int takeForeignColumn();
+
     /// Whether views are just being told of a change. Until that is over nobody may make another.
     bool isChanging() const;
 
@@ -47,6 +51,7 @@ private:
     std::vector<Row> cells;
     int width;
     bool changing;
+    int foreignColumn;
 };
 
 #endif
