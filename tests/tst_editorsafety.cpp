@@ -83,6 +83,7 @@ private Q_SLOTS:
     void keepsADelegateInUseThroughANestedEventLoop();
     void survivesColumnsDeclaredAnewDuringACommit_data();
     void survivesColumnsDeclaredAnewDuringACommit();
+    void keepsADelegateThatClosesAnEditorWhichAnotherCommits();
     void survivesAModelReplacedDuringAnEdit();
     void writesNothingIntoAModelThatComesDuringAnEdit_data();
     void writesNothingIntoAModelThatComesDuringAnEdit();
@@ -91,11 +92,13 @@ private Q_SLOTS:
 public Q_SLOTS:
     void declareColumnsAnew();
     void declareColumnsAnewInALoop();
+    void declareColumnsAnewAndLook();
 
 private:
     QPointer<EditableTableView> actedOn;
     QPointer<QObject> delegateInUse;
     bool wasAliveAfterTheLoop = false;
+    bool wasAliveAfterwards = false;
 };
 
 void EditorSafetyTest::declareColumnsAnew()
@@ -114,6 +117,12 @@ void EditorSafetyTest::declareColumnsAnewInALoop()
     loop.exec();
     compat::deliverDeferredDeletes();
     wasAliveAfterTheLoop = !delegateInUse.isNull();
+}
+
+void EditorSafetyTest::declareColumnsAnewAndLook()
+{
+    actedOn->setColumns(declarations());
+    wasAliveAfterwards = !delegateInUse.isNull();
 }
 
 void EditorSafetyTest::survivesAModelThatDiesDuringAnEdit()
@@ -343,6 +352,28 @@ void EditorSafetyTest::survivesColumnsDeclaredAnewDuringACommit()
     QVERIFY(old.isNull());
     const int role = column == 0 ? int(Qt::EditRole) : Qt::UserRole + 1;
     QCOMPARE(table.model->index(0, column).data(role).toString(), QString("typed"));
+}
+
+void EditorSafetyTest::keepsADelegateThatClosesAnEditorWhichAnotherCommits()
+{
+    tolerateWarnings("QAbstractItemView::"); // Qt 6 gives the editor up instead
+    TalkativeModel model;
+    EditableTableView view;
+    view.setColumns(QStringList() << "editbox");
+    view.setModel(&model);
+    showWindow(&view, 400, 200);
+    QWidget *field = openEditor(&view, model.index(0, 0));
+    QVERIFY(field);
+    QTest::keyClicks(field, "typed");
+    delegateInUse = view.itemDelegateForColumn(0);
+    actedOn = &view;
+    connect(&model,
+            SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(declareColumnsAnewAndLook()));
+    model.insertColumn(0); // the plain column's delegate commits the editor from now on
+
+    view.setFocus();
+
+    QVERIFY(wasAliveAfterwards || model.writes.isEmpty());
 }
 
 void EditorSafetyTest::survivesAModelReplacedDuringAnEdit()

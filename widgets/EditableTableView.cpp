@@ -104,16 +104,22 @@ void EditableTableView::setHorizontalHeaderClickable(bool clickable)
 // written by whichever delegate follows: a secret as plain text.
 void EditableTableView::finishEditing()
 {
-    const QObjectList children = viewport()->children();
-    QList<QPointer<QWidget>> editors;
-    for (QObject *child : children) {
-        if (CellEditor::cellOf(child).isValid()) {
-            editors.append(static_cast<QWidget *>(child));
-        }
-    }
-    for (const QPointer<QWidget> &editor : editors) {
+    const QList<QPointer<QWidget>> toFinish = editors();
+    for (const QPointer<QWidget> &editor : toFinish) {
         finishEditor(editor);
     }
+}
+
+QList<QPointer<QWidget>> EditableTableView::editors() const
+{
+    QList<QPointer<QWidget>> found;
+    const QObjectList children = viewport()->children();
+    for (QObject *child : children) {
+        if (CellEditor::cellOf(child).isValid()) {
+            found.append(static_cast<QWidget *>(child));
+        }
+    }
+    return found;
 }
 
 void EditableTableView::finishEditor(const QPointer<QWidget> &editor)
@@ -161,6 +167,10 @@ void EditableTableView::discardDelegate(QItemDelegate *delegate)
         CellEditor::Commit::whenDone(delegate, [delegate]() {
             delegate->deleteLater();
         });
+    } else if (!editors().isEmpty()) {
+        // It may be this one that is closing its editor: where columns moved below the editor,
+        // another delegate commits it.
+        delegate->deleteLater();
     } else {
         delete delegate;
     }

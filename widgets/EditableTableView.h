@@ -4,6 +4,7 @@
 
 #include "Export.h"
 
+#include <QList>
 #include <QMap>
 #include <QPointer>
 #include <QStringList>
@@ -122,6 +123,7 @@ private:
     int totalWidth() const;
 
     void finishEditing();
+    QList<QPointer<QWidget>> editors() const;
     void finishEditor(const QPointer<QWidget> &editor);
     bool isOpen(const QPointer<QWidget> &editor) const;
     void discardDelegates();
