@@ -56,6 +56,8 @@ private Q_SLOTS:
     void takesASessionFromAnotherThread();
     void sparesTheNextModelFromALatePageOrSession_data();
     void sparesTheNextModelFromALatePageOrSession();
+    void asksTheNextModelForAPageThatWasWantedBefore();
+    void takesALateSessionOfAModelThatIsSetAgain();
     void survivesItsDeletionByACallThatWasQueued();
     void ignoresRowsOfAChild();
     void keepsTheCurrentCellWhenTheFocusedButtonScrollsAway();
@@ -358,6 +360,38 @@ void FileListSafetyTest::sparesTheNextModelFromALatePageOrSession()
     QCOMPARE(second.rowCount(), 4);
     QCOMPARE(second.requests, 0);
     QCOMPARE(labelOfButton(view), QString()); // nothing was asked for, nothing has come
+}
+
+void FileListSafetyTest::asksTheNextModelForAPageThatWasWantedBefore()
+{
+    PagedModel model;
+    PagedModel second;
+    FileListTableView view;
+    view.setModel(&model);
+    QMetaObject::invokeMethod(&view, "StartLoadingData", Qt::QueuedConnection);
+
+    view.setModel(&second);
+    goThroughEvents();
+
+    QCOMPARE(model.requests, 0);
+    QCOMPARE(second.requests, 1);
+    QCOMPARE(labelOfButton(view), QString("loading..."));
+}
+
+void FileListSafetyTest::takesALateSessionOfAModelThatIsSetAgain()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&model);
+    PageThread loader(&model, true);
+    loader.start();
+    QVERIFY(loader.join());
+
+    view.setModel(&model);
+    goThroughEvents();
+
+    QCOMPARE(model.requests, 1);
+    QCOMPARE(model.rowCount(), 1);
 }
 
 void FileListSafetyTest::survivesItsDeletionByACallThatWasQueued()

@@ -21,10 +21,12 @@ const int fixedHeight = 18;
 
 FileListTableView::FileListTableView(QWidget *parent)
     : QTableView(parent)
-    , attached(false)
     , loading(false)
     , lastWidth(0)
     , fixedRowHeight(fixedHeight)
+    , attached(false)
+    , detaching(false)
+    , startPutOff(false)
 {
     compat::setSectionResizeMode(horizontalHeader(), QHeaderView::Interactive);
     horizontalHeader()->setHighlightSections(false);
@@ -51,7 +53,7 @@ FileListTableView::~FileListTableView()
 void FileListTableView::setModel(QAbstractItemModel *model)
 {
     const QPointer<FileListTableView> self(this);
-    detach();
+    detach(model);
     if (!self) {
         return; // a call that was on its way was to delete it
     }
@@ -111,6 +113,10 @@ void FileListTableView::rowsInserted(const QModelIndex &rParentIndex, int start,
 
 void FileListTableView::StartLoadingData()
 {
+    if (detaching) {
+        startPutOff = true;
+        return;
+    }
     if (loading) {
         return;
     }
@@ -146,7 +152,9 @@ void FileListTableView::SessionChanged()
     RemoveButtons();
     standardModel->removeRows(0, standardModel->rowCount());
     AddButtons();
-    StartLoadingData();
+    if (!detaching) {
+        StartLoadingData();
+    }
 }
 
 void FileListTableView::SortByColumn(int)
@@ -154,7 +162,7 @@ void FileListTableView::SortByColumn(int)
     horizontalHeader()->setSortIndicatorShown(false);
 }
 
-void FileListTableView::detach()
+void FileListTableView::detach(const QAbstractItemModel *next)
 {
     if (standardModel) {
         disconnect(standardModel,
@@ -162,9 +170,25 @@ void FileListTableView::detach()
         disconnect(standardModel, SIGNAL(dataChanged()), this, SLOT(SessionChanged()));
         disconnect(this, SIGNAL(requestItems()), standardModel, SLOT(LoadItems()));
     }
-    if (attached) {
-        // What the old model said from another thread is for it, and must not come late.
-        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    if (attached && (!next || next != standardModel)) {
+        receiveQueuedCalls();
+    }
+}
+
+// What the old model said from another thread is for it, and must not come late. Nobody is left to
+// be asked for a page, though: one that the application wants is the next model's.
+void FileListTableView::receiveQueuedCalls()
+{
+    const QPointer<FileListTableView> self(this);
+    detaching = true;
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    if (!self) {
+        return;
+    }
+    detaching = false;
+    if (startPutOff) {
+        startPutOff = false;
+        QMetaObject::invokeMethod(this, "StartLoadingData", Qt::QueuedConnection);
     }
 }
 

@@ -66,22 +66,25 @@ Q_SIGNALS:
     void requestItems();
 
 private:
-    void detach();
     void AddButtons();
     void RemoveButtons();
     void AdjustColumnswidth();
     void resizeEvent(QResizeEvent *event) override;
 
+    void detach(const QAbstractItemModel *next);
+    void receiveQueuedCalls();
     void createButton(const QString &text);
     void forgetReleasedButton();
     void setWidths(int firstColumn);
 
     QPointer<QStandardItemModel> standardModel;
     QPointer<CellButton> nextButton; ///< Guarded: a reset of the model makes the view delete it.
-    bool attached; ///< To a standard model, which may have been deleted since.
     bool loading;
     int lastWidth;
     int fixedRowHeight;
+    bool attached; ///< To a standard model, which may have been deleted since.
+    bool detaching; ///< Queued calls are carried out before their time.
+    bool startPutOff; ///< One of them was StartLoadingData().
 };
 
 #endif
