@@ -15,6 +15,7 @@ private Q_SLOTS:
     void leavesRoomForTheScrollBarOnlyWhenTheRowsExceedTheView();
     void leavesHeaderAndFrameOutOfAccount();
     void showsTheInitialWidthsUntilTheWidthChanges();
+    void restoresTheFixedColumnsWhenTheWidthChanges();
     void adjustsTheColumnsAfterAPage();
     void adjustsTheColumnsWithoutThePagingRow();
     void leavesAResizeToThePlainWidgetHandler();
@@ -98,6 +99,19 @@ void FileListLayoutTest::showsTheInitialWidthsUntilTheWidthChanges()
     QCOMPARE(widths(list.view), QString("320,120,70,55,65"));
     list.view.resize(601, 400);
     QCoreApplication::processEvents();
+    QCOMPARE(widths(list.view), QString("286,120,70,55,65"));
+}
+
+void FileListLayoutTest::restoresTheFixedColumnsWhenTheWidthChanges()
+{
+    List list;
+    setWidths(&list.view, "300,50,200,20,100");
+    list.fill(1);
+    QCOMPARE(widths(list.view), QString("300,50,200,20,100")); // the user's, at the same width
+
+    list.view.resize(601, 400);
+    QCoreApplication::processEvents();
+
     QCOMPARE(widths(list.view), QString("286,120,70,55,65"));
 }
 

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void asksForNoSecondPageWhenTheSessionChangesWhileLoading();
     void startsAnewAfterTheLastPage();
     void acceptsAnAnswerAtOnce();
+    void goesOnAfterAnAnswerAtOnce();
     void keepsTheRowsWhenTheModelIsTakenAway();
     void cutsOffAModelThatIsReplaced();
     void givesTheSecondModelAButtonThatStays();
@@ -64,7 +65,18 @@ private Q_SLOTS:
     void deletesAButtonThatNeverFoundACell();
     void keepsTheNewModelsRowsFromTheOldModelsSession();
     void keepsARequestUnderWayWhenTheSameModelIsSetAgain();
+
+public Q_SLOTS:
+    void deliverAPage();
+
+private:
+    PagedModel *asked;
 };
+
+void FileListTableViewTest::deliverAPage()
+{
+    asked->deliver(2, false);
+}
 
 void FileListTableViewTest::listsItsMethodsInOrder_data()
 {
@@ -285,16 +297,33 @@ void FileListTableViewTest::acceptsAnAnswerAtOnce()
     QCOMPARE(list.model.rowCount(), 4);
 }
 
+void FileListTableViewTest::goesOnAfterAnAnswerAtOnce()
+{
+    List list;
+    asked = &list.model;
+    connect(&list.view, SIGNAL(requestItems()), SLOT(deliverAPage()));
+
+    list.click();
+    QCOMPARE(list.paging(), QString("2 Next >>"));
+    QCoreApplication::processEvents();
+    list.click();
+
+    QCOMPARE(list.paging(), QString("4 Next >>"));
+}
+
 void FileListTableViewTest::keepsTheRowsWhenTheModelIsTakenAway()
 {
     List list;
     list.fill(2);
+    QSignalSpy spy(&list.view, SIGNAL(requestItems()));
 
     list.view.setModel(nullptr);
+    list.click();
     list.click();
 
     QCOMPARE(list.view.model(), static_cast<QAbstractItemModel *>(&list.model));
     QCOMPARE(list.paging(), QString("2 loading..."));
+    QCOMPARE(spy.count(), 1);
     QCOMPARE(list.model.requests, 1); // nobody was asked
     list.model.announce(1, false);
     QCOMPARE(list.paging(), QString("2 loading...")); // nobody listens

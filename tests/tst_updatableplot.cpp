@@ -109,6 +109,7 @@ private Q_SLOTS:
     void fitsTheSizeAxisToTheLargestSample();
     void keepsHalfAnHourAndASecond();
     void rejectsAValueAndChangesNothing();
+    void saysOnTheDebugOutputThatAValueIsInvalid();
     void takesSamplesByName();
     void keepsSamplesAheadOfAClockSetBack();
     void dropsAllWhenTheClockJumpsAhead();
@@ -181,6 +182,7 @@ void UpdatablePlotTest::startsWithTheHalfHourAfterItsStart()
     QVERIFY(qAbs(time.upperBound() - lower - 1800) <= 1); // a fraction of the start may be cut off
     QCOMPARE(majorStep(plot, QwtPlot::xBottom), 300.0);
     QCOMPARE(ends(plot, QwtPlot::yLeft), QString("0..1024"));
+    QCOMPARE(majorStep(plot, QwtPlot::yLeft), 200.0); // as Qwt chooses
     const qint64 boundary = PlotClock::startTime.toMSecsSinceEpoch() / 300000 * 300000;
     QCOMPARE(plot.axisScaleDraw(QwtPlot::xBottom)->label(0).text(),
              QDateTime::fromMSecsSinceEpoch(boundary).time().toString("hh:mm"));
@@ -450,6 +452,16 @@ void UpdatablePlotTest::rejectsAValueAndChangesNothing()
     QCOMPARE(points(plot), QString("10:5000"));
     QCOMPARE(ends(plot, QwtPlot::xBottom), time);
     QCOMPARE(ends(plot, QwtPlot::yLeft), QString("0..5000"));
+}
+
+void UpdatablePlotTest::saysOnTheDebugOutputThatAValueIsInvalid()
+{
+    UpdatablePlot plot(nullptr);
+    QTest::ignoreMessage(QtDebugMsg, "Invalid value."); // fails if it does not come
+
+    plot.updateData(QVariant());
+
+    QCOMPARE(points(plot), QString());
 }
 
 void UpdatablePlotTest::takesSamplesByName()
