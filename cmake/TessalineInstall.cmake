@@ -19,9 +19,10 @@ if(NOT plugins_dir AND CMAKE_INSTALL_PREFIX STREQUAL TESSALINE_QT_PREFIX AND pla
 elseif(NOT plugins_dir)
     set(plugins_dir ${CMAKE_INSTALL_LIBDIR}/qt${TESSALINE_QT}/plugins)
 endif()
+tessaline_make_relative(plugins_dir)
 
-string(JOIN " " folders ${config_dir} ${CMAKE_INSTALL_LIBDIR}/pkgconfig ${TESSALINE_INCLUDE_DIR}
-    ${TESSALINE_DATA_DIR}/translations ${plugins_dir}/designer)
+set(folders "${config_dir}" "${CMAKE_INSTALL_LIBDIR}/pkgconfig" "${TESSALINE_INCLUDE_DIR}"
+    "${TESSALINE_DATA_DIR}/translations" "${plugins_dir}/designer")
 configure_file(cmake/record-folders.cmake.in record-folders.cmake @ONLY)
 install(SCRIPT "${CMAKE_CURRENT_BINARY_DIR}/record-folders.cmake")
 
@@ -48,7 +49,8 @@ if(TESSALINE_HAS_PLOT)
 endif()
 
 # The package for pkg-config: it finds its prefix from its own place, which may be moved.
-file(RELATIVE_PATH TESSALINE_UP "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+file(RELATIVE_PATH TESSALINE_UP
+    "${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_PREFIX}")
 string(REGEX REPLACE "/$" "" TESSALINE_UP "${TESSALINE_UP}")
 set(pc_cflags)
 set(pc_plot)
@@ -58,9 +60,9 @@ if(TESSALINE_HAS_PLOT)
     get_filename_component(qwt_dir "${QWT_LIBRARY}" DIRECTORY)
     get_filename_component(qwt_name "${QWT_LIBRARY}" NAME_WE)
     string(REGEX REPLACE "^lib" "" qwt_name "${qwt_name}")
-    set(pc_cflags " -DTESSALINE_HAS_PLOT -I${QWT_INCLUDE_DIR}")
+    set(pc_cflags " -DTESSALINE_HAS_PLOT -I\"${QWT_INCLUDE_DIR}\"")
     set(pc_plot " -lTessalinePlot${TESSALINE_QT_SUFFIX}")
-    set(pc_libs " -L${qwt_dir} -l${qwt_name}")
+    set(pc_libs " -L\"${qwt_dir}\" -l${qwt_name}")
 endif()
 configure_file(cmake/Tessaline.pc.in ${package}.pc @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${package}.pc"
@@ -74,10 +76,11 @@ install(FILES ${TESSALINE_TRANSLATIONS} DESTINATION ${TESSALINE_DATA_DIR}/transl
 
 # The plug-in is a link to the library: as a copy, a program that links the library and loads its
 # plug-in would have everything twice.
-file(RELATIVE_PATH library_dir "/${plugins_dir}/designer" "/${CMAKE_INSTALL_LIBDIR}")
 set(plugin "lib${package}.so")
+file(RELATIVE_PATH library "${CMAKE_INSTALL_PREFIX}/${plugins_dir}/designer"
+    "${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/${plugin}.${PROJECT_VERSION_MAJOR}")
 file(MAKE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin")
-file(CREATE_LINK "${library_dir}${plugin}.${PROJECT_VERSION_MAJOR}"
+file(CREATE_LINK "${library}"
     "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}" SYMBOLIC)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}"
     DESTINATION ${plugins_dir}/designer COMPONENT development)
