@@ -41,7 +41,8 @@ public:
 
     /// Shows a model, which is not owned, and appends the row with the button to it. Null leaves
     /// the rows on screen as they are and only cuts the model off. A model that is no
-    /// QStandardItemModel is shown without paging.
+    /// QStandardItemModel is shown without paging. Slots that were queued for the view run before
+    /// a model is replaced, except that StartLoadingData() waits and asks the next one.
     void setModel(QAbstractItemModel *model) override;
 
 public Q_SLOTS:
