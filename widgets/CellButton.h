@@ -16,9 +16,6 @@ public:
     /// The button's cell. Follows its row when rows come, go or are sorted; invalid when it is
     /// gone.
     QPersistentModelIndex index;
-
-protected:
-    void hideEvent(QHideEvent *event) override;
 };
 
 #endif
