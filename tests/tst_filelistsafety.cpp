@@ -330,17 +330,21 @@ void FileListSafetyTest::sparesTheNextModelFromALatePageOrSession_data()
 {
     QTest::addColumn<bool>("changesSession");
     QTest::addColumn<bool>("dies");
+    QTest::addColumn<bool>("isTakenAway");
 
-    QTest::newRow("page") << false << false;
-    QTest::newRow("session") << true << false;
-    QTest::newRow("page of a model that dies") << false << true;
-    QTest::newRow("session of a model that dies") << true << true;
+    QTest::newRow("page") << false << false << false;
+    QTest::newRow("session") << true << false << false;
+    QTest::newRow("page of a model that dies") << false << true << false;
+    QTest::newRow("session of a model that dies") << true << true << false;
+    QTest::newRow("page, taken away in between") << false << false << true;
+    QTest::newRow("page of a model that dies, likewise") << false << true << true;
 }
 
 void FileListSafetyTest::sparesTheNextModelFromALatePageOrSession()
 {
     QFETCH(bool, changesSession);
     QFETCH(bool, dies);
+    QFETCH(bool, isTakenAway);
     QScopedPointer<PagedModel> model(new PagedModel);
     PagedModel second;
     FileListTableView view;
@@ -352,6 +356,9 @@ void FileListSafetyTest::sparesTheNextModelFromALatePageOrSession()
 
     if (dies) {
         model.reset();
+    }
+    if (isTakenAway) {
+        view.setModel(nullptr);
     }
     view.setModel(&second);
     second.insertPage(3);
