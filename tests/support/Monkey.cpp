@@ -54,6 +54,8 @@ Monkey::Monkey(quint32 seed)
 QString Monkey::play(int steps)
 {
     for (int step = 1; step <= steps; ++step) {
+        // However much chance a step takes, and that depends on the toolkit, the next has its own.
+        dice = Dice(initialSeed * 1000003U + static_cast<quint32>(step));
         take(chooseTrick());
         if (complaint.isEmpty()) {
             look();

@@ -10,6 +10,8 @@
 #include <QStyle>
 #include <QStyleFactory>
 
+#include <limits>
+
 namespace {
 
 const Qt::Key keys[]
@@ -86,6 +88,10 @@ WidgetMonkey::WidgetMonkey(quint32 seed)
     , translated(false)
     , initialFont(QApplication::font())
 {
+    // What goes by the clock would not come again with the same seed.
+    QApplication::setDoubleClickInterval(0);
+    QApplication::setKeyboardInputInterval(std::numeric_limits<int>::max());
+    QApplication::setCursorFlashTime(0);
     useStyle("windows");
 }
 
