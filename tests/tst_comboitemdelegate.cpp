@@ -46,6 +46,8 @@ private Q_SLOTS:
     void listsTheBoundColumn();
     void opensEmptyWithoutABinding();
     void opensEmptyWhenTheBoundModelIsGone();
+    void opensEmptyWhenTheBindingIsTakenAway();
+    void opensEmptyWhenColumnsWereDeclaredAnew();
     void keepsTheListOfAnOpenEditorWhenBoundAgain();
     void choosesTheStoredText_data();
     void choosesTheStoredText();
@@ -111,6 +113,33 @@ void ComboItemDelegateTest::opensEmptyWhenTheBoundModelIsGone()
     QVERIFY(box);
     QCOMPARE(box->count(), 0);
     QCOMPARE(box->modelColumn(), 1);
+}
+
+void ComboItemDelegateTest::opensEmptyWhenTheBindingIsTakenAway()
+{
+    Colours colours;
+    EditorFixture fixture("combobox");
+    fixture.view.bindModel(0, &colours);
+
+    fixture.view.bindModel(0, nullptr, 1);
+
+    QComboBox *box = qobject_cast<QComboBox *>(fixture.open(0, 0, "red"));
+    QVERIFY(box);
+    QCOMPARE(box->count(), 0);
+    QCOMPARE(box->modelColumn(), 1);
+}
+
+void ComboItemDelegateTest::opensEmptyWhenColumnsWereDeclaredAnew()
+{
+    Colours colours;
+    EditorFixture fixture("combobox");
+    fixture.view.bindModel(0, &colours);
+
+    fixture.view.setColumns(fixture.view.getColumns());
+
+    QComboBox *box = qobject_cast<QComboBox *>(fixture.open(0, 0, "red"));
+    QVERIFY(box);
+    QCOMPARE(box->count(), 0);
 }
 
 void ComboItemDelegateTest::keepsTheListOfAnOpenEditorWhenBoundAgain()

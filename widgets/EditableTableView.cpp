@@ -249,7 +249,7 @@ void EditableTableView::bindModel(int columnIndex, QObject *model, int modelColu
 {
     ComboItemDelegate *delegate = qobject_cast<ComboItemDelegate *>(delegates.value(columnIndex));
     QAbstractItemModel *items = qobject_cast<QAbstractItemModel *>(model);
-    if (delegate && items) {
+    if (delegate && (items || !model)) {
         delegate->bindModel(items, modelColumn);
     }
 }

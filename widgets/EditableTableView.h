@@ -89,8 +89,9 @@ Q_SIGNALS:
 
 public Q_SLOTS:
     /// Makes editors opened from now on in a "combobox" or "editcombobox" column list the column
-    /// `modelColumn` of `model`, a QAbstractItemModel that is not owned. Does nothing for other
-    /// columns and other objects. Lasts until the next setColumns().
+    /// `modelColumn` of `model`, a QAbstractItemModel that is not owned; with a null model they
+    /// list nothing. Does nothing for other columns and other objects. Lasts until the next
+    /// setColumns().
     void bindModel(int columnIndex, QObject *model, int modelColumn = 0);
 
     /// Whether the horizontal header can be clicked; off by default.
