@@ -18,7 +18,6 @@ private Q_SLOTS:
     void writesOnlyATextThatDiffers();
     void escapeDiscardsWhatWasTyped();
     void leavesAForeignEditorAlone();
-    void takesNoTextFromAPasswordField();
 };
 
 void EditItemDelegateTest::opensAFramelessLineEditOverTheCell()
@@ -112,17 +111,6 @@ void EditItemDelegateTest::escapeDiscardsWhatWasTyped()
 void EditItemDelegateTest::leavesAForeignEditorAlone()
 {
     verifyLeavesForeignEditorAlone("editbox");
-}
-
-void EditItemDelegateTest::takesNoTextFromAPasswordField()
-{
-    RecordingModel model(1, 1);
-    QLineEdit field("secret");
-    field.setEchoMode(QLineEdit::Password);
-
-    EditItemDelegate().setModelData(&field, &model, model.index(0, 0));
-
-    QCOMPARE(model.writes, QStringList());
 }
 
 TESSALINE_TEST_MAIN(EditItemDelegateTest)

@@ -46,6 +46,7 @@ void PasswordItemDelegateTest::opensAMaskedLineEditOverTheCell()
     QVERIFY(field);
     QVERIFY(!field->hasFrame());
     QCOMPARE(field->echoMode(), QLineEdit::Password);
+    QCOMPARE(QString(field->metaObject()->className()), QString("QLineEdit"));
     verifyDressed(&fixture, field, 1, 1, "EditableTableViewPassword column1");
 }
 

@@ -31,9 +31,7 @@ void EditItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *itemMod
                                     const QModelIndex &index) const
 {
     const CellEditor::Commit commit(this, editor);
-    const QLineEdit *field = qobject_cast<QLineEdit *>(editor);
-    // A password editor gets here when columns move below it; what it holds is no plain text.
-    if (field && field->echoMode() == QLineEdit::Normal) {
+    if (const QLineEdit *field = qobject_cast<QLineEdit *>(editor)) {
         CellEditor::store(field->text(), itemModel, index);
     }
 }

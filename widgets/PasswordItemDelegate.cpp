@@ -6,6 +6,7 @@
 
 #include <QLineEdit>
 #include <QPersistentModelIndex>
+#include <QPointer>
 
 namespace {
 
@@ -18,18 +19,54 @@ bool holdsText(const QAbstractItemModel *itemModel, const QModelIndex &index, in
 
 } // namespace
 
-/// What a delegate that knows nothing of the editor takes from it, as the plain delegate does when
-/// columns move below it, is the user property: here the mask, not the text.
-class PasswordField : public QLineEdit
+/// Gives a field up when columns move below it. The delegate of the column where it would then
+/// stand, the plain one say, would write the secret as a plain text.
+class ColumnWatch : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QString mask READ displayText USER true) // clazy:exclude=qproperty-without-notify
 
 public:
-    explicit PasswordField(QWidget *parent)
-        : QLineEdit(parent)
+    ColumnWatch(QLineEdit *watchedField, const QModelIndex &index)
+        : QObject(watchedField)
+        , field(watchedField)
+        , cell(index)
+        , column(index.column())
     {
+        const QAbstractItemModel *model = index.model();
+        connect(model, SIGNAL(columnsInserted(QModelIndex,int,int)), SLOT(look()));
+        connect(model, SIGNAL(columnsRemoved(QModelIndex,int,int)), SLOT(look()));
+        connect(model, SIGNAL(columnsMoved(QModelIndex,int,int,QModelIndex,int)), SLOT(look()));
+        connect(model, SIGNAL(layoutChanged()), SLOT(look()));
     }
+
+private Q_SLOTS:
+    void look()
+    {
+        if (cell.isValid() && cell.column() != column) {
+            giveUp();
+        }
+    }
+
+private:
+    void giveUp()
+    {
+        // The view commits an editor that loses the focus: let it find what the cell holds.
+        field->setText(compat::text(cell.data(Qt::EditRole)));
+        if (field->hasFocus() && field->parentWidget()) {
+            field->parentWidget()->setFocus();
+        }
+        field->hide();
+        const QPointer<QLineEdit> abandoned(field);
+        CellEditor::Commit::whenDone(field, [abandoned]() {
+            if (abandoned) {
+                abandoned->deleteLater();
+            }
+        });
+    }
+
+    QLineEdit *const field;
+    const QPersistentModelIndex cell;
+    const int column;
 };
 
 PasswordItemDelegate::PasswordItemDelegate(QObject *parent)
@@ -40,10 +77,13 @@ PasswordItemDelegate::PasswordItemDelegate(QObject *parent)
 QWidget *PasswordItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
                                             const QModelIndex &index) const
 {
-    QLineEdit *field = new PasswordField(parent);
+    QLineEdit *field = new QLineEdit(parent);
     CellEditor::dress(field, "EditableTableViewPassword column", index);
     field->setFrame(false);
     field->setEchoMode(QLineEdit::Password);
+    if (index.isValid()) {
+        new ColumnWatch(field, index);
+    }
     return field;
 }
 
