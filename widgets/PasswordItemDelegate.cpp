@@ -52,9 +52,10 @@ private:
     {
         // The view commits an editor that loses the focus: let it find what the cell holds.
         field->setText(compat::text(cell.data(Qt::EditRole)));
-        if (field->hasFocus() && field->parentWidget()) {
+        if (field->window()->focusWidget() == field && field->parentWidget()) {
             field->parentWidget()->setFocus();
         }
+        field->setEnabled(false); // the view may show it again until it is deleted
         field->hide();
         const QPointer<QLineEdit> abandoned(field);
         CellEditor::Commit::whenDone(field, [abandoned]() {
