@@ -119,10 +119,13 @@ private Q_SLOTS:
     void ignoresAButtonColumnThatTheModelLacks();
     void keepsExistingButtonsWhenColumnsAreDeclaredAnew();
     void makesNoButtonsForShownRowsWhenColumnsAreDeclared();
+    void makesTheMissingButtonsWhenTheModelIsSetAgain();
+    void leavesAnotherWidgetInAButtonCell();
     void reportsAClick();
     void reportsOnlyEditableCellsOfTheRow();
     void reportsTheCellsOfTheLatestDeclarations();
     void reportsTheRowWhereTheButtonIsNow();
+    void reportsTheCellsOfARowUnderItsParent();
     void reportsAKeyPress();
     void leavesTheCurrentCellAloneWhenAButtonGetsTheFocus();
     void buttonsFollowTheirRows_data();
@@ -299,6 +302,31 @@ void ButtonCellsTest::makesNoButtonsForShownRowsWhenColumnsAreDeclared()
     QCOMPARE(buttonMarks(table.view, 1), QString("..."));
 }
 
+void ButtonCellsTest::makesTheMissingButtonsWhenTheModelIsSetAgain()
+{
+    Table table(QStringList() << "editbox");
+    table.view.setColumns(QStringList() << "editbox"
+                                        << "button:Late");
+
+    table.view.setModel(&table.model);
+
+    QCOMPARE(buttonMarks(table.view, 1), QString("xxx"));
+}
+
+void ButtonCellsTest::leavesAnotherWidgetInAButtonCell()
+{
+    Table table(QStringList() << "button:A"
+                              << "button:B");
+    table.model.insertRows(3, 2); // the second row of them gets no buttons
+    QWidget *own = new QWidget;
+    table.view.setIndexWidget(table.model.index(4, 0), own);
+
+    table.view.announce(4);
+
+    QCOMPARE(table.view.indexWidget(table.model.index(4, 0)), own);
+    QVERIFY(table.button(4, 1));
+}
+
 void ButtonCellsTest::reportsAClick()
 {
     Table table;
@@ -367,6 +395,19 @@ void ButtonCellsTest::reportsTheRowWhereTheButtonIsNow()
     QTest::mouseClick(button, Qt::LeftButton);
 
     QCOMPARE(report(spy), QString("2/1:b"));
+}
+
+void ButtonCellsTest::reportsTheCellsOfARowUnderItsParent()
+{
+    Table table;
+    QStandardItem *parent = table.model.item(1, 0);
+    table.view.setRootIndex(parent->index());
+    parent->appendRow(QList<QStandardItem *>() << new QStandardItem("child") << new QStandardItem);
+    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
+
+    qobject_cast<QPushButton *>(table.view.indexWidget(parent->child(0, 1)->index()))->click();
+
+    QCOMPARE(report(spy), QString("0/1:child"));
 }
 
 void ButtonCellsTest::reportsAKeyPress()

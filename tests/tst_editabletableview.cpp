@@ -19,6 +19,12 @@ QString delegateName(const EditableTableView &view, int column)
     return delegate ? QString(delegate->metaObject()->className()) : QString("none");
 }
 
+QString baseOfDelegate(const EditableTableView &view, int column)
+{
+    const QAbstractItemDelegate *delegate = view.itemDelegateForColumn(column);
+    return delegate ? QString(delegate->metaObject()->superClass()->className()) : QString("none");
+}
+
 QString joined(const QList<QByteArray> &names)
 {
     QStringList list;
@@ -265,28 +271,40 @@ void EditableTableViewTest::installsADelegateByKeyword_data()
 {
     QTest::addColumn<QString>("declaration");
     QTest::addColumn<QString>("delegate");
+    QTest::addColumn<QString>("base");
 
     QTest::newRow("combobox") << "combobox"
-                              << "ComboItemDelegate";
+                              << "ComboItemDelegate"
+                              << "QItemDelegate";
     QTest::newRow("editcombobox") << "editcombobox"
-                                  << "EditComboItemDelegate";
+                                  << "EditComboItemDelegate"
+                                  << "ComboItemDelegate";
     QTest::newRow("editbox") << "editbox"
-                             << "EditItemDelegate";
+                             << "EditItemDelegate"
+                             << "QItemDelegate";
     QTest::newRow("passwordbox") << "passwordbox"
-                                 << "PasswordItemDelegate";
+                                 << "PasswordItemDelegate"
+                                 << "EditItemDelegate";
     QTest::newRow("checkbox") << "checkbox"
-                              << "CheckItemDelegate";
+                              << "CheckItemDelegate"
+                              << "QItemDelegate";
     QTest::newRow("checkbox with label") << "checkbox:Verify"
-                                         << "CheckItemDelegate";
+                                         << "CheckItemDelegate"
+                                         << "QItemDelegate";
     QTest::newRow("button") << "button:Run"
+                            << "none"
                             << "none";
     QTest::newRow("mixed case and blanks") << " ComboBox "
-                                           << "ComboItemDelegate";
+                                           << "ComboItemDelegate"
+                                           << "QItemDelegate";
     QTest::newRow("inner blank") << "combo box"
+                                 << "none"
                                  << "none";
     QTest::newRow("unknown") << "spinbox"
+                             << "none"
                              << "none";
     QTest::newRow("empty") << ""
+                           << "none"
                            << "none";
 }
 
@@ -298,6 +316,7 @@ void EditableTableViewTest::installsADelegateByKeyword()
     view.setColumns(QStringList() << "" << declaration);
 
     QTEST(delegateName(view, 1), "delegate");
+    QTEST(baseOfDelegate(view, 1), "base");
 }
 
 void EditableTableViewTest::declaresEachStringsOwnPosition()

@@ -32,6 +32,8 @@ private Q_SLOTS:
     void clearingTheFieldClearsSecretAndMask();
     void decidesOnTheMaskByWhatTheModelHolds_data();
     void decidesOnTheMaskByWhatTheModelHolds();
+    void asksTheModelOnlyForWhatDecides_data();
+    void asksTheModelOnlyForWhatDecides();
     void masksWhatWasTypedThoughTheFieldIsLoadedAgain();
     void survivesARowThatGoesWithItsFirstWrite();
     void leavesAForeignEditorAlone();
@@ -157,6 +159,59 @@ void PasswordItemDelegateTest::decidesOnTheMaskByWhatTheModelHolds()
 
     const QStringList mask(QString("display ") + field.displayText());
     QCOMPARE(model.writes, writesMask ? mask : QStringList());
+}
+
+namespace {
+
+/// Notes which roles are read.
+class ReadModel : public RecordingModel
+{
+public:
+    ReadModel()
+        : RecordingModel(1, 1)
+    {
+    }
+
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        reads.append(role == secretRole ? "secret" : role == Qt::DisplayRole ? "display" : "other");
+        return RecordingModel::data(index, role);
+    }
+
+    mutable QStringList reads;
+};
+
+} // namespace
+
+void PasswordItemDelegateTest::asksTheModelOnlyForWhatDecides_data()
+{
+    QTest::addColumn<QString>("fieldText");
+    QTest::addColumn<QString>("secret");
+    QTest::addColumn<QString>("reads");
+
+    QTest::newRow("text in the field") << "x"
+                                       << "s"
+                                       << "";
+    QTest::newRow("a secret") << ""
+                              << "s"
+                              << "secret";
+    QTest::newRow("neither") << ""
+                             << ""
+                             << "secret,display";
+}
+
+void PasswordItemDelegateTest::asksTheModelOnlyForWhatDecides()
+{
+    QFETCH(QString, fieldText);
+    QFETCH(QString, secret);
+    ReadModel model;
+    model.put(0, 0, secret, secretRole);
+    QLineEdit field(fieldText);
+    model.reads.clear();
+
+    PasswordItemDelegate().setModelData(&field, &model, model.index(0, 0));
+
+    QTEST(model.reads.join(","), "reads");
 }
 
 void PasswordItemDelegateTest::masksWhatWasTypedThoughTheFieldIsLoadedAgain()

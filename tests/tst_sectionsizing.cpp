@@ -81,6 +81,15 @@ private Q_SLOTS:
     void showsNoScrollBarWhenTheColumnsFit();
     void leavesTheDragLimitAlone();
     void fillsTheViewWhenAModelIsSetLater();
+    void fillsTheViewWhenItIsFirstShown();
+    void resizesASectionWhileTheViewResizesAnother();
+    void declaringColumnsLeavesTheHeaderAlone();
+
+public Q_SLOTS:
+    void resizeLastSection(int section);
+
+private:
+    EditableTableView *resizedView = nullptr;
 };
 
 void SectionSizingTest::theStretchSectionAbsorbsAResize_data()
@@ -310,6 +319,48 @@ void SectionSizingTest::fillsTheViewWhenAModelIsSetLater()
         total += view.horizontalHeader()->sectionSize(section);
     }
     QCOMPARE(total, view.viewport()->width());
+}
+
+void SectionSizingTest::fillsTheViewWhenItIsFirstShown()
+{
+    QStandardItemModel model(2, 2);
+    EditableTableView view;
+    view.setModel(&model);
+    setWidths(&view, "100,70");
+
+    showWindow(&view, 500, 200);
+
+    QCOMPARE(widths(view), QString("%1,70").arg(view.viewport()->width() - 70));
+}
+
+void SectionSizingTest::resizeLastSection(int section)
+{
+    if (section == 1) {
+        resizedView->resizeSection(2, 60);
+    }
+}
+
+void SectionSizingTest::resizesASectionWhileTheViewResizesAnother()
+{
+    Table table;
+    resizedView = &table.view;
+    connect(table.header(), SIGNAL(sectionResized(int,int,int)), SLOT(resizeLastSection(int)));
+
+    table.setHeaderWidth(450);
+
+    QCOMPARE(widths(table.view), QString("100,250,60"));
+}
+
+void SectionSizingTest::declaringColumnsLeavesTheHeaderAlone()
+{
+    Table table(1, "100,150,100");
+    table.view.setHorizontalHeaderClickable(true);
+
+    table.view.setColumns(QStringList() << "editbox"
+                                        << "button");
+
+    QCOMPARE(widths(table.view), QString("100,150,100"));
+    QVERIFY(compat::sectionsClickable(table.header()));
 }
 
 TESSALINE_TEST_MAIN(SectionSizingTest)

@@ -33,6 +33,7 @@ void verifyDressed(EditorFixture *fixture, QWidget *editor, int row, int column,
                    const QString &description)
 {
     QVERIFY(editor);
+    QCOMPARE(editor->parentWidget(), fixture->view.viewport());
     QCOMPARE(editor->accessibleDescription(), description);
     QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(editor);
     QVERIFY(accessible);
