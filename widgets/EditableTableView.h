@@ -53,12 +53,14 @@ class TESSALINE_EXPORT EditableTableView : public QTableView
     Q_PROPERTY(int stretchSection READ getStretchSection WRITE setStretchSection)
 
 public:
+    /// Makes a view without declarations. It has no row header, and its columns fill it.
     explicit EditableTableView(QWidget *parent = nullptr);
 
     /// Deliberately leaves the delegates that setColumns() made alone: only the next setColumns()
     /// deletes them.
     ~EditableTableView() override;
 
+    /// The declarations as they were given, blanks and case included.
     QStringList getColumns() const;
 
     /// Replaces all declarations. Open editors are committed and closed, persistent ones too; then
@@ -66,7 +68,11 @@ public:
     /// that the application installed itself stays. Buttons that exist stay until their rows go.
     void setColumns(const QStringList &declarations);
 
+    /// What setStretchSection() was given; 0 at first.
     int getStretchSection() const;
+
+    /// Names the section that takes up differences of width. Unchecked; nothing moves before the
+    /// next resize.
     void setStretchSection(int section);
 
     /// Shows `model`, which is not owned, and gives each of its rows a button in every button
@@ -102,6 +108,7 @@ public Q_SLOTS:
     QWidget *button(int row, int column);
 
 protected:
+    /// Announces resizeView() when the headers are laid out.
     void resizeEvent(QResizeEvent *event) override;
 
 protected Q_SLOTS:

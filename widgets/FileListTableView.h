@@ -36,7 +36,10 @@ class TESSALINE_EXPORT FileListTableView : public QTableView
     Q_OBJECT
 
 public:
+    /// Makes a list for reading: it neither edits nor selects, and shows no grid.
     explicit FileListTableView(QWidget *parent = nullptr);
+
+    /// Deletes the button. Its row stays in the model.
     ~FileListTableView() override;
 
     /// Shows a model, which is not owned, and appends the row with the button to it. Null leaves

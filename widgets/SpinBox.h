@@ -21,7 +21,9 @@ class TESSALINE_EXPORT SpinBox : public QSpinBox
     Q_OBJECT
 
 public:
+    /// Makes a spin box with the range, step and value of a QSpinBox.
     explicit SpinBox(QWidget *parent = nullptr);
+
     ~SpinBox() override;
 
 Q_SIGNALS:
@@ -29,6 +31,7 @@ Q_SIGNALS:
     void focused();
 
 protected:
+    /// Announces focused() and reacts as QSpinBox does; for other reasons it does neither.
     void focusInEvent(QFocusEvent *event) override;
 };
 

@@ -35,24 +35,41 @@ class UpdatablePlot : public QwtPlot
     /// Until it is set, the curve is a thin line without an area and this reads "#000000".
     Q_PROPERTY(QString curveColor READ curveColor WRITE setCurveColor)
 
-    /// The titles of the axes: plain text, empty by default.
+    /// The title of the time axis: plain text, empty by default.
     Q_PROPERTY(QString xTitle READ xTitle WRITE setXTitle)
+
+    /// The title of the size axis: plain text, empty by default.
     Q_PROPERTY(QString yTitle READ yTitle WRITE setYTitle)
 
 public:
+    /// Makes a chart without samples, over the half hour from the full five minutes before the
+    /// chart's code was loaded.
     explicit UpdatablePlot(QWidget *parent = nullptr);
+
     ~UpdatablePlot() override;
 
+    /// The canvas colour as "#rrggbb".
     QString bgColor() const;
+
+    /// Colours the canvas.
     void setBgColor(const QString &text);
 
+    /// The colour of the curve as "#rrggbb", without its translucence.
     QString curveColor() const;
+
+    /// Colours the curve and fills the area below it.
     void setCurveColor(const QString &text);
 
+    /// The title of the time axis.
     QString xTitle() const;
+
+    /// Writes a title below the time axis. Markup is shown as it is.
     void setXTitle(const QString &text);
 
+    /// The title of the size axis.
     QString yTitle() const;
+
+    /// Writes a title beside the size axis. Markup is shown as it is.
     void setYTitle(const QString &text);
 
 public Q_SLOTS:
