@@ -45,3 +45,5 @@ packages_checks="clang-format clang-tidy clazy $packages_benchmarks"
 packages_pictures="xvfb xdotool imagemagick"
 # For the tests of the installed library and its packages.
 packages_install="pkg-config make binutils dpkg-dev file lintian"
+# For the manual.
+packages_docs="doxygen qhelpgenerator-qt5"
