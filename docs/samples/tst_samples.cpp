@@ -8,9 +8,6 @@
 #include <EditableTableView.h>
 #include <FileListTableView.h>
 #include <SpinBox.h>
-#ifdef TESSALINE_HAS_PLOT
-#include <UpdatablePlot.h>
-#endif
 
 #include <QComboBox>
 #include <QFile>
@@ -20,9 +17,6 @@
 #include <QStringListModel>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QUiLoader>
-
-#include <memory>
 
 namespace {
 
@@ -67,12 +61,6 @@ private Q_SLOTS:
     void namesButtonsForAScreenReader();
     void readsNothingInAButtonCellByItself();
     void asksForAHintWhenClicked();
-#ifdef TESSALINE_HAS_PLOT
-    void readsTheFormsOfASample();
-    void readsTheFormsOfASample_data();
-    void feedsAChart();
-    void feedsTheChartOfAForm();
-#endif
 };
 
 void SamplesTest::listsAFolderPageByPage()
@@ -374,78 +362,6 @@ void SamplesTest::asksForAHintWhenClicked()
 
     QVERIFY(!hint.isHidden());
 }
-
-#ifdef TESSALINE_HAS_PLOT
-
-void SamplesTest::readsTheFormsOfASample()
-{
-    QFETCH(QVariant, payload);
-    QFETCH(bool, accepted);
-    UpdatablePlot chart;
-    chart.replot();
-    const double before = chart.axisScaleDiv(QwtPlot::xBottom).upperBound();
-    if (!accepted) {
-        expectMessage("Invalid value.");
-    }
-
-    chart.updateData(payload);
-
-    const double after = chart.axisScaleDiv(QwtPlot::xBottom).upperBound();
-    QCOMPARE(after != before, accepted);
-}
-
-void SamplesTest::readsTheFormsOfASample_data()
-{
-    QTest::addColumn<QVariant>("payload");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("int") << QVariant(2048) << true;
-    QTest::newRow("qint64") << QVariant(qint64(5) << 40) << true;
-    QTest::newRow("negative") << QVariant(-1) << true;
-    QTest::newRow("text") << QVariant("2048") << true;
-    QTest::newRow("text with blanks and sign") << QVariant(" +2048 ") << true;
-    QTest::newRow("bytes") << QVariant(QByteArray("2048")) << true;
-    QTest::newRow("whole double") << QVariant(1000000.0) << true;
-    QTest::newRow("double of 15 digits") << QVariant(123456789012345.0) << true;
-    QTest::newRow("double of 16 digits") << QVariant(1e15) << false;
-    QTest::newRow("fraction") << QVariant(2048.5) << false;
-    QTest::newRow("fraction as text") << QVariant("2048.0") << false;
-    QTest::newRow("grouped") << QVariant("2,048") << false;
-    QTest::newRow("hexadecimal") << QVariant("0x800") << false;
-    QTest::newRow("with a unit") << QVariant("2 KB") << false;
-    QTest::newRow("too large") << QVariant("9223372036854775808") << false;
-    QTest::newRow("bool") << QVariant(true) << false;
-    QTest::newRow("empty") << QVariant("") << false;
-    QTest::newRow("invalid") << QVariant() << false;
-    QTest::newRow("list") << QVariant(QVariantList() << 2048) << false;
-}
-
-void SamplesTest::feedsAChart()
-{
-    UpdatablePlot chart;
-
-    samples::feed(&chart);
-
-    QCOMPARE(chart.bgColor(), QString("#ffffff"));
-    QCOMPARE(chart.curveColor(), QString("#4682b4"));
-    QVERIFY(chart.axisScaleDiv(QwtPlot::yLeft).upperBound() >= 1024);
-}
-
-void SamplesTest::feedsTheChartOfAForm()
-{
-    QUiLoader loader;
-    loader.addPluginPath(TESSALINE_PLUGIN_PATH "/designer");
-    QFile file(SAMPLE_FORM);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const std::unique_ptr<QWidget> form(loader.load(&file));
-
-    samples::feedThroughForm(form.get());
-
-    const QWidget *chart = form->findChild<QWidget *>("throughput");
-    QCOMPARE(chart->metaObject()->className(), "UpdatablePlot");
-    QCOMPARE(chart->property("curveColor").toString(), QString("#4682b4"));
-}
-
-#endif
 
 TESSALINE_TEST_MAIN(SamplesTest)
 #include "tst_samples.moc"
