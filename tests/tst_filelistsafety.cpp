@@ -373,6 +373,7 @@ void FileListSafetyTest::asksTheNextModelForAPageThatWasWantedBefore()
 {
     PagedModel model;
     PagedModel second;
+    PagedModel third;
     FileListTableView view;
     view.setModel(&model);
     QMetaObject::invokeMethod(&view, "StartLoadingData", Qt::QueuedConnection);
@@ -383,6 +384,9 @@ void FileListSafetyTest::asksTheNextModelForAPageThatWasWantedBefore()
     QCOMPARE(model.requests, 0);
     QCOMPARE(second.requests, 1);
     QCOMPARE(labelOfButton(view), QString("loading..."));
+    view.setModel(&third);
+    goThroughEvents();
+    QCOMPARE(third.requests, 0); // it was wanted once
 }
 
 void FileListSafetyTest::takesALateSessionOfAModelThatIsSetAgain()
