@@ -39,6 +39,7 @@ packages_qt5="qtbase5-dev libqwt-qt5-dev qttools5-dev qttools5-dev-tools"
 packages_qt6="qt6-base-dev libgl-dev libqt6opengl6-dev qt6-tools-dev qt6-l10n-tools"
 packages_fuzz="clang libclang-rt-dev"
 packages_memcheck="valgrind"
+packages_coverage="gcovr"
 packages_benchmarks="libbenchmark-dev libqcustomplot-dev libqt5charts5-dev valgrind"
 packages_checks="clang-format clang-tidy clazy $packages_benchmarks"
 # For pictures of a program on a display.

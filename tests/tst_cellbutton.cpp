@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "CellButton.h"
 #include "TestCase.h"
+#include "ViewHelpers.h"
 
+#include <QLineEdit>
 #include <QStandardItemModel>
 
 class CellButtonTest : public TestCase
@@ -14,6 +16,9 @@ private Q_SLOTS:
     void startsWithoutACell();
     void followsItsRow();
     void losesItsCellWithItsRow();
+    void leavesTheFocusToItsParentWhenHidden_data();
+    void leavesTheFocusToItsParentWhenHidden();
+    void canBeAHiddenWindow();
     void hasNoMetaObjectOfItsOwn();
 };
 
@@ -71,6 +76,45 @@ void CellButtonTest::losesItsCellWithItsRow()
     model.removeRow(1);
 
     QVERIFY(!button.index.isValid());
+}
+
+void CellButtonTest::leavesTheFocusToItsParentWhenHidden_data()
+{
+    QTest::addColumn<bool>("isActive");
+
+    QTest::newRow("in the active window") << true;
+    QTest::newRow("in another window") << false;
+}
+
+void CellButtonTest::leavesTheFocusToItsParentWhenHidden()
+{
+    QFETCH(bool, isActive);
+    QWidget other;
+    QWidget window;
+    QWidget *parent = new QWidget(&window);
+    CellButton *button = new CellButton(QString(), true, parent);
+    new QLineEdit(&window); // where the Tab key would lead
+    showWindow(&other, 200, 100);
+    showWindow(&window, 200, 100);
+    button->setFocus();
+    if (!isActive) {
+        QApplication::setActiveWindow(&other);
+    }
+
+    button->hide();
+
+    QCOMPARE(window.focusWidget(), parent);
+}
+
+void CellButtonTest::canBeAHiddenWindow()
+{
+    CellButton button("Run", true, nullptr);
+    showWindow(&button, 200, 100);
+    QCOMPARE(button.window()->focusWidget(), static_cast<QWidget *>(&button));
+
+    button.hide();
+
+    QVERIFY(!button.isVisible());
 }
 
 void CellButtonTest::hasNoMetaObjectOfItsOwn()

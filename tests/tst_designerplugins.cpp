@@ -82,6 +82,7 @@ private Q_SLOTS:
     void answersCastsOfTheCollection();
     void declaresNothingOfItsOwn();
     void describesTheFileListOutsideTheCollection();
+    void initializesTheFileListOnceAndForAll();
     void givesOneInstanceUntilItIsDeleted();
     void tellsTheBuildItWasMadeFor();
 };
@@ -342,9 +343,24 @@ void DesignerPluginsTest::describesTheFileListOutsideTheCollection()
 
     QCOMPARE(descriptor.name(), QString("FileListTableView"));
     QCOMPARE(descriptor.includeFile(), QString("FileListTableView.h"));
+    QCOMPARE(descriptor.group(), QString("Vantrel Extra"));
+    QCOMPARE(descriptor.toolTip(), QString("File List Table View"));
     QCOMPARE(descriptor.whatsThis(), descriptor.toolTip());
+    QVERIFY(descriptor.icon().isNull());
+    QVERIFY(!descriptor.isContainer());
     QVERIFY(descriptor.domXml().startsWith("<widget class=\"FileListTableView\" name=\""));
     QCOMPARE(QString(widget->metaObject()->className()), QString("FileListTableView"));
+}
+
+void DesignerPluginsTest::initializesTheFileListOnceAndForAll()
+{
+    FileListTableViewPlugin descriptor;
+    QVERIFY(!descriptor.isInitialized());
+
+    descriptor.initialize(nullptr);
+    descriptor.initialize(nullptr);
+
+    QVERIFY(descriptor.isInitialized());
 }
 
 void DesignerPluginsTest::givesOneInstanceUntilItIsDeleted()

@@ -88,6 +88,7 @@ private Q_SLOTS:
     void writesNothingIntoAModelThatComesDuringAnEdit_data();
     void writesNothingIntoAModelThatComesDuringAnEdit();
     void survivesARowRemovedDuringAnEdit();
+    void closesAnEditorThatHasNoDelegateAnyMore();
 
 public Q_SLOTS:
     void declareColumnsAnew();
@@ -446,6 +447,26 @@ void EditorSafetyTest::survivesARowRemovedDuringAnEdit()
 
     QVERIFY(!table.editor);
     QCOMPARE(buttonMarks(table.view, 1), QString("xx"));
+}
+
+void EditorSafetyTest::closesAnEditorThatHasNoDelegateAnyMore()
+{
+    tolerateWarnings("QAbstractItemView::"); // Qt 6 gives the editor up at once
+    TalkativeModel model;
+    EditableTableView view;
+    view.setColumns(QStringList("editbox"));
+    view.setModel(&model);
+    showWindow(&view, 400, 200);
+    const QPointer<QWidget> field = openEditor(&view, model.index(0, 0));
+    QVERIFY(field);
+    QTest::keyClicks(field, "typed");
+    model.insertColumn(0); // the editor now stands in a plain column
+
+    view.setColumns(QStringList("checkbox"));
+    goThroughEvents();
+
+    QVERIFY(!field);
+    QCOMPARE(model.writes, QStringList());
 }
 
 TESSALINE_TEST_MAIN(EditorSafetyTest)

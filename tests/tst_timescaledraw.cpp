@@ -6,6 +6,8 @@
 
 #include <QLocale>
 
+#include <limits>
+
 class TimeScaleDrawTest : public TestCase
 {
     Q_OBJECT
@@ -36,6 +38,9 @@ void TimeScaleDrawTest::labelsSecondsAsTimes_data()
     QTest::newRow("a day") << late << 86400.0 << "23:55";
     QTest::newRow("30 days and 5 minutes") << QTime(12, 1) << 2592300.0 << "12:06";
     QTest::newRow("a negative day") << late << -86700.0 << "23:50";
+    QTest::newRow("infinite") << QTime(9, 5) << std::numeric_limits<double>::infinity() << "09:05";
+    QTest::newRow("no number") << QTime(9, 5) << std::numeric_limits<double>::quiet_NaN()
+                               << "09:05";
     QTest::newRow("beyond an int") << QTime(0, 0) << 86400.0 * 1e6 + 60 << "00:01";
 }
 
