@@ -18,8 +18,8 @@ public:
     /// What would fail the running test if it ended now; empty if nothing would.
     static QString complaint();
 
-    /// Announces a message of any kind, word for word.
-    static void expectMessage(const QString &message);
+    /// Announces a debug message, word for word.
+    static void expectDebugMessage(const QString &message);
 
 protected:
     /// Fails the test if this is said, whatever its kind; warnings fail one anyway.
