@@ -18,6 +18,8 @@ private Q_SLOTS:
     void losesItsCellWithItsRow();
     void leavesTheFocusToItsParentWhenHidden_data();
     void leavesTheFocusToItsParentWhenHidden();
+    void leavesTheFocusToAnotherWidgetWhenHidden();
+    void keepsTheFocusOfItsWindowWhenTheTableIsHidden();
     void canBeAHiddenWindow();
     void hasNoMetaObjectOfItsOwn();
 };
@@ -104,6 +106,36 @@ void CellButtonTest::leavesTheFocusToItsParentWhenHidden()
     button->hide();
 
     QCOMPARE(window.focusWidget(), parent);
+}
+
+void CellButtonTest::leavesTheFocusToAnotherWidgetWhenHidden()
+{
+    QWidget window;
+    QWidget *parent = new QWidget(&window);
+    CellButton *button = new CellButton(QString(), true, parent);
+    QLineEdit *field = new QLineEdit(&window);
+    showWindow(&window, 200, 100);
+    field->setFocus();
+
+    button->hide();
+
+    QCOMPARE(window.focusWidget(), static_cast<QWidget *>(field));
+}
+
+void CellButtonTest::keepsTheFocusOfItsWindowWhenTheTableIsHidden()
+{
+    QWidget other;
+    QWidget window;
+    QWidget *page = new QWidget(&window);
+    CellButton *button = new CellButton(QString(), true, new QWidget(page));
+    showWindow(&other, 200, 100);
+    showWindow(&window, 200, 100);
+    button->setFocus();
+    QApplication::setActiveWindow(&other);
+
+    page->hide();
+
+    QCOMPARE(window.focusWidget(), static_cast<QWidget *>(button));
 }
 
 void CellButtonTest::canBeAHiddenWindow()

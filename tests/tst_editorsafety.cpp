@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "CellEditor.h"
 #include "EditableTableView.h"
 #include "RecordingModel.h"
 #include "TestCase.h"
@@ -61,6 +62,20 @@ struct TableInEdit
     QPointer<QWidget> editor;
 };
 
+void addRowsForTheEditors()
+{
+    QTest::addColumn<QString>("declaration");
+
+    const QStringList editors = QStringList() << "combobox"
+                                              << "editcombobox"
+                                              << "editbox"
+                                              << "passwordbox"
+                                              << "checkbox";
+    for (const QString &declaration : editors) {
+        QTest::newRow(qPrintable(declaration)) << declaration;
+    }
+}
+
 } // namespace
 
 /// What happens to an open editor, and to what was typed, when things change under it.
@@ -81,6 +96,8 @@ private Q_SLOTS:
     void commitsAnEditorOfAnotherTable();
     void commitsAnotherEditorOfATableThatIsCommitting();
     void keepsADelegateInUseThroughANestedEventLoop();
+    void isCommittingWhileItWrites_data();
+    void isCommittingWhileItWrites();
     void survivesColumnsDeclaredAnewDuringACommit_data();
     void survivesColumnsDeclaredAnewDuringACommit();
     void keepsADelegateThatClosesAnEditorWhichAnotherCommits();
@@ -88,18 +105,21 @@ private Q_SLOTS:
     void writesNothingIntoAModelThatComesDuringAnEdit_data();
     void writesNothingIntoAModelThatComesDuringAnEdit();
     void survivesARowRemovedDuringAnEdit();
+    void commitsAnEditorInTheRowItMovedTo();
     void closesAnEditorThatHasNoDelegateAnyMore();
 
 public Q_SLOTS:
     void declareColumnsAnew();
     void declareColumnsAnewInALoop();
     void declareColumnsAnewAndLook();
+    void noteACommit();
 
 private:
     QPointer<EditableTableView> actedOn;
     QPointer<QObject> delegateInUse;
     bool wasAliveAfterTheLoop = false;
     bool wasAliveAfterwards = false;
+    bool wasCommitting = false;
 };
 
 void EditorSafetyTest::declareColumnsAnew()
@@ -124,6 +144,11 @@ void EditorSafetyTest::declareColumnsAnewAndLook()
 {
     actedOn->setColumns(declarations());
     wasAliveAfterwards = !delegateInUse.isNull();
+}
+
+void EditorSafetyTest::noteACommit()
+{
+    wasCommitting = CellEditor::Commit::isUnderWay(actedOn->itemDelegateForColumn(0));
 }
 
 void EditorSafetyTest::survivesAModelThatDiesDuringAnEdit()
@@ -335,6 +360,35 @@ void EditorSafetyTest::keepsADelegateInUseThroughANestedEventLoop()
     QVERIFY(delegateInUse.isNull()); // gone when nobody uses it any more
 }
 
+void EditorSafetyTest::isCommittingWhileItWrites_data()
+{
+    addRowsForTheEditors();
+}
+
+void EditorSafetyTest::isCommittingWhileItWrites()
+{
+    QFETCH(QString, declaration);
+    QStringListModel items(QStringList() << "typed");
+    RecordingModel model(1, 1);
+    EditableTableView view;
+    view.setColumns(QStringList(declaration));
+    view.bindModel(0, &items);
+    view.setModel(&model);
+    showWindow(&view, 400, 200);
+    QWidget *editor = openEditor(&view, model.index(0, 0));
+    QVERIFY(editor);
+    QTest::keyClicks(editor, "typed");
+    QTest::keyClick(editor, Qt::Key_Space); // checks a box
+    actedOn = &view;
+    wasCommitting = false;
+    connect(&model, SIGNAL(itemChanged(QStandardItem*)), SLOT(noteACommit()));
+
+    view.itemDelegateForColumn(0)->setModelData(editor, &model, model.index(0, 0));
+
+    QVERIFY(!model.writes.isEmpty());
+    QVERIFY(wasCommitting);
+}
+
 void EditorSafetyTest::survivesColumnsDeclaredAnewDuringACommit_data()
 {
     QTest::addColumn<int>("column");
@@ -401,16 +455,7 @@ void EditorSafetyTest::survivesAModelReplacedDuringAnEdit()
 
 void EditorSafetyTest::writesNothingIntoAModelThatComesDuringAnEdit_data()
 {
-    QTest::addColumn<QString>("declaration");
-
-    const QStringList editors = QStringList() << "combobox"
-                                              << "editcombobox"
-                                              << "editbox"
-                                              << "passwordbox"
-                                              << "checkbox";
-    for (const QString &declaration : editors) {
-        QTest::newRow(qPrintable(declaration)) << declaration;
-    }
+    addRowsForTheEditors();
 }
 
 void EditorSafetyTest::writesNothingIntoAModelThatComesDuringAnEdit()
@@ -447,6 +492,19 @@ void EditorSafetyTest::survivesARowRemovedDuringAnEdit()
 
     QVERIFY(!table.editor);
     QCOMPARE(buttonMarks(table.view, 1), QString("xx"));
+}
+
+void EditorSafetyTest::commitsAnEditorInTheRowItMovedTo()
+{
+    TableInEdit table;
+    QVERIFY(table.editor);
+    table.model->insertRow(0);
+
+    table.view.setColumns(QStringList("checkbox"));
+    goThroughEvents();
+
+    QVERIFY(!table.editor);
+    QCOMPARE(texts(*table.model, 0), QString(",typed,,"));
 }
 
 void EditorSafetyTest::closesAnEditorThatHasNoDelegateAnyMore()
