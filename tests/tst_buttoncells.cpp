@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "CellButton.h"
+#include "DisguisedModel.h"
 #include "EditableTableView.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
@@ -122,6 +123,7 @@ private Q_SLOTS:
     void makesTheMissingButtonsWhenTheModelIsSetAgain();
     void leavesAnotherWidgetInAButtonCell();
     void reportsAClick();
+    void reportsWhatCellsHoldNotWhatTheyShow();
     void reportsOnlyEditableCellsOfTheRow();
     void reportsTheCellsOfTheLatestDeclarations();
     void reportsTheRowWhereTheButtonIsNow();
@@ -337,6 +339,19 @@ void ButtonCellsTest::reportsAClick()
 
     QCOMPARE(report(spy), QString("2/1:c"));
     QCOMPARE(spy.at(0).at(0).value<QWidget *>(), static_cast<QWidget *>(table.button(2)));
+}
+
+void ButtonCellsTest::reportsWhatCellsHoldNotWhatTheyShow()
+{
+    DisguisedModel model("held", 2);
+    Table table;
+    table.view.setModel(&model);
+    showWindow(&table.view, 400, 200);
+    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
+
+    QTest::mouseClick(table.button(0), Qt::LeftButton);
+
+    QCOMPARE(report(spy), QString("0/1:held"));
 }
 
 void ButtonCellsTest::reportsOnlyEditableCellsOfTheRow()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "CheckItemDelegate.h"
+#include "DisguisedModel.h"
 #include "EditorFixture.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
@@ -87,6 +88,7 @@ private Q_SLOTS:
     void writesOnlyAChangedState();
     void paintsWhatTheStyleDraws_data();
     void paintsWhatTheStyleDraws();
+    void paintsWhatACellHoldsNotWhatItShows();
     void asksTheStyleForAFlatEnabledCheckBox();
     void paintsTheSameWhateverTheViewLooksLike();
     void paintsTheSameInADarkApplication();
@@ -201,6 +203,16 @@ void CheckItemDelegateTest::paintsWhatTheStyleDraws()
 
     QCOMPARE(drawn, drawnByStyle(label, checked));
     QVERIFY(drawn != drawnByStyle(label, !checked));
+}
+
+void CheckItemDelegateTest::paintsWhatACellHoldsNotWhatItShows()
+{
+    const DisguisedModel model("");
+    const CheckItemDelegate delegate("Verify");
+
+    const QImage drawn = drawnByDelegate(delegate, QStyleOptionViewItem(), model.index(0, 0));
+
+    QCOMPARE(drawn, drawnByStyle("Verify", false));
 }
 
 void CheckItemDelegateTest::asksTheStyleForAFlatEnabledCheckBox()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "DisguisedModel.h"
 #include "EditItemDelegate.h"
 #include "EditorFixture.h"
 #include "TestCase.h"
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void writesOnlyATextThatDiffers();
     void escapeDiscardsWhatWasTyped();
     void leavesAForeignEditorAlone();
+    void readsWhatACellHoldsNotWhatItShows();
 };
 
 void EditItemDelegateTest::opensAFramelessLineEditOverTheCell()
@@ -111,6 +113,20 @@ void EditItemDelegateTest::escapeDiscardsWhatWasTyped()
 void EditItemDelegateTest::leavesAForeignEditorAlone()
 {
     verifyLeavesForeignEditorAlone("editbox");
+}
+
+void EditItemDelegateTest::readsWhatACellHoldsNotWhatItShows()
+{
+    DisguisedModel model("held");
+    const EditItemDelegate delegate;
+    QLineEdit field;
+    delegate.setEditorData(&field, model.index(0, 0));
+    QCOMPARE(field.text(), QString("held"));
+    field.setText("shown");
+
+    delegate.setModelData(&field, &model, model.index(0, 0));
+
+    QCOMPARE(model.writes, QStringList("edit shown"));
 }
 
 TESSALINE_TEST_MAIN(EditItemDelegateTest)
