@@ -123,6 +123,7 @@ private Q_SLOTS:
     void makesTheMissingButtonsWhenTheModelIsSetAgain();
     void leavesAnotherWidgetInAButtonCell();
     void reportsAClick();
+    void reportsNoPressThatEndsElsewhere();
     void reportsWhatCellsHoldNotWhatTheyShow();
     void reportsOnlyEditableCellsOfTheRow();
     void reportsTheCellsOfTheLatestDeclarations();
@@ -339,6 +340,18 @@ void ButtonCellsTest::reportsAClick()
 
     QCOMPARE(report(spy), QString("2/1:c"));
     QCOMPARE(spy.at(0).at(0).value<QWidget *>(), static_cast<QWidget *>(table.button(2)));
+}
+
+void ButtonCellsTest::reportsNoPressThatEndsElsewhere()
+{
+    Table table;
+    showWindow(&table.view, 400, 200);
+    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
+
+    QTest::mousePress(table.button(1), Qt::LeftButton);
+    QTest::mouseRelease(table.button(1), Qt::LeftButton, Qt::NoModifier, QPoint(-5, -5));
+
+    QCOMPARE(report(spy), QString());
 }
 
 void ButtonCellsTest::reportsWhatCellsHoldNotWhatTheyShow()

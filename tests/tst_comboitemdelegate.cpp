@@ -51,6 +51,7 @@ private Q_SLOTS:
     void keepsTheListOfAnOpenEditorWhenBoundAgain();
     void choosesTheStoredText_data();
     void choosesTheStoredText();
+    void choosesALargeDoubleByAllItsDigits();
     void writesOnlyAChoiceThatDiffers_data();
     void writesOnlyAChoiceThatDiffers();
     void leavesAForeignEditorAlone();
@@ -182,6 +183,20 @@ void ComboItemDelegateTest::choosesTheStoredText()
 
     QVERIFY(box);
     QTEST(box->currentIndex(), "current");
+}
+
+void ComboItemDelegateTest::choosesALargeDoubleByAllItsDigits()
+{
+    QStandardItemModel numbers;
+    numbers.appendRow(new QStandardItem("1e+06"));
+    numbers.appendRow(new QStandardItem("1000000"));
+    EditorFixture fixture("combobox");
+    fixture.view.bindModel(0, &numbers);
+
+    QComboBox *box = qobject_cast<QComboBox *>(fixture.open(0, 0, 1000000.0));
+
+    QVERIFY(box);
+    QCOMPARE(box->currentIndex(), 1);
 }
 
 void ComboItemDelegateTest::writesOnlyAChoiceThatDiffers_data()

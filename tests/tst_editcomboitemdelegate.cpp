@@ -18,6 +18,7 @@ private Q_SLOTS:
     void opensWithTheStoredText();
     void writesOnlyATextThatDiffers_data();
     void writesOnlyATextThatDiffers();
+    void writesATextThatTheListDoesNotHold();
     void canBeBoundAsACombo();
     void leavesAForeignEditorAlone();
 
@@ -117,6 +118,21 @@ void EditComboItemDelegateTest::writesOnlyATextThatDiffers()
     commitEditor(box);
 
     QTEST(fixture.model.writes.join("|"), "writes");
+}
+
+void EditComboItemDelegateTest::writesATextThatTheListDoesNotHold()
+{
+    EditorFixture fixture("editcombobox");
+    fixture.view.bindModel(0, colours(&fixture.view));
+    QComboBox *box = qobject_cast<QComboBox *>(fixture.open(0, 0));
+    QVERIFY(box);
+    QTest::keyClicks(box, "pink"); // the Return key would add it to the list
+
+    const QModelIndex cell = fixture.model.index(0, 0);
+    fixture.view.itemDelegateForColumn(0)->setModelData(box, &fixture.model, cell);
+
+    QCOMPARE(box->count(), 3);
+    QCOMPARE(fixture.model.writes, QStringList("edit pink"));
 }
 
 void EditComboItemDelegateTest::canBeBoundAsACombo()

@@ -67,6 +67,8 @@ void EditItemDelegateTest::writesOnlyATextThatDiffers_data()
                                 << "edit xyz";
     QTest::newRow("typed in other case") << QVariant(QString("abc")) << "ABC"
                                          << "edit ABC";
+    QTest::newRow("typed with blanks") << QVariant(QString("abc")) << " x "
+                                       << "edit  x ";
     QTest::newRow("typed into nothing") << QVariant() << "x"
                                         << "edit x";
     QTest::newRow("typed a number over a text") << QVariant(QString("a")) << "7"

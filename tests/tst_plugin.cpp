@@ -7,6 +7,7 @@
 
 #include <QDesignerCustomWidgetCollectionInterface>
 #include <QFile>
+#include <QLibrary>
 #include <QPluginLoader>
 #include <QPointer>
 #include <QPushButton>
@@ -56,6 +57,7 @@ class PluginTest : public TestCase
 
 private Q_SLOTS:
     void loadsAsAPlugin();
+    void exportsItsEntryPoints();
     void givesACollectionOfItsWidgets();
     void isTheLibraryThatIsLinked();
     void remakesADeletedInstance();
@@ -75,6 +77,12 @@ void PluginTest::loadsAsAPlugin()
 
     QVERIFY2(loader.load(), qPrintable(loader.errorString()));
     QVERIFY(loader.instance());
+}
+
+void PluginTest::exportsItsEntryPoints()
+{
+    QVERIFY(QLibrary::resolve(pluginFile(), "qt_plugin_instance"));
+    QVERIFY(QLibrary::resolve(pluginFile(), "qt_plugin_query_verification_data"));
 }
 
 void PluginTest::givesACollectionOfItsWidgets()
