@@ -32,6 +32,31 @@ public Q_SLOTS:
     }
 };
 
+/// A model of another kind that has all that paging takes.
+class OfferingList : public QStringListModel
+{
+    Q_OBJECT
+
+public:
+    void speakUp()
+    {
+        emit pageLoaded(1, false);
+        emit dataChanged();
+    }
+
+    int requests = 0;
+
+public Q_SLOTS:
+    void LoadItems()
+    {
+        ++requests;
+    }
+
+Q_SIGNALS:
+    void pageLoaded(qint64 count, bool completed);
+    void dataChanged();
+};
+
 /// Models that break the contract, and calls at the wrong time: nothing crashes.
 class FileListSafetyTest : public TestCase
 {
@@ -41,6 +66,7 @@ private Q_SLOTS:
     void isShownWithoutAModel();
     void isCalledWithoutAModel();
     void showsAModelOfAnotherKindWithoutPaging();
+    void cutsOffAModelOfAnotherKind();
     void survivesAModelThatDies();
     void survivesAModelThatDiesWhileLoading();
     void survivesAnAnswerWithoutAButton();
@@ -118,6 +144,24 @@ void FileListSafetyTest::showsAModelOfAnotherKindWithoutPaging()
 
     QCOMPARE(model.rowCount(), 3);
     QCOMPARE(buttonCount(view), 0);
+}
+
+void FileListSafetyTest::cutsOffAModelOfAnotherKind()
+{
+    OfferingList former;
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&former);
+    view.setModel(&model);
+    showWindow(&view, 600, 300);
+    model.insertPage(2);
+    view.StartLoadingData();
+
+    former.speakUp();
+
+    QCOMPARE(former.requests, 0);
+    QCOMPARE(model.rowCount(), 3);
+    QCOMPARE(labelOfButton(view), QString("loading..."));
 }
 
 void FileListSafetyTest::survivesAModelThatDies()

@@ -65,6 +65,7 @@ private Q_SLOTS:
     void deletesAButtonThatNeverFoundACell();
     void keepsTheNewModelsRowsFromTheOldModelsSession();
     void keepsARequestUnderWayWhenTheSameModelIsSetAgain();
+    void keepsItsOneButtonWhenTheSameModelIsSetAgain();
 
 public Q_SLOTS:
     void deliverAPage();
@@ -443,6 +444,17 @@ void FileListTableViewTest::keepsARequestUnderWayWhenTheSameModelIsSetAgain()
     list.view.StartLoadingData();
 
     QCOMPARE(list.model.requests, 1);
+}
+
+void FileListTableViewTest::keepsItsOneButtonWhenTheSameModelIsSetAgain()
+{
+    List list;
+    list.fill(2);
+
+    list.view.setModel(&list.model);
+
+    QCOMPARE(buttonCount(list.view), 1);
+    QCOMPARE(list.paging(), QString("3 Next >>"));
 }
 
 TESSALINE_TEST_MAIN(FileListTableViewTest)
