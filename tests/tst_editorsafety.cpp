@@ -174,10 +174,12 @@ void EditorSafetyTest::commitsAnOpenEditorWhenColumnsAreDeclaredAnew()
 {
     TableInEdit table;
     QVERIFY(table.editor);
+    const QPointer<QObject> old = table.view.itemDelegateForColumn(0);
 
     table.view.setColumns(QStringList() << "checkbox");
-    goThroughEvents();
 
+    QVERIFY(old.isNull());
+    goThroughEvents();
     QVERIFY(!table.editor);
     QCOMPARE(table.model->writes, QStringList() << "edit typed");
     use(&table.view);

@@ -15,11 +15,23 @@ public:
     CellTag(QWidget *editor, const QModelIndex &index)
         : QObject(editor)
         , cell(index)
+        , column(index.column())
     {
     }
 
     const QPersistentModelIndex cell;
+    const int column; ///< Where the cell was when the editor was made.
 };
+
+const CellTag *tagOf(const QObject *widget)
+{
+    for (const QObject *child : widget->children()) {
+        if (const CellTag *tag = dynamic_cast<const CellTag *>(child)) {
+            return tag;
+        }
+    }
+    return nullptr;
+}
 
 } // namespace
 
@@ -35,12 +47,14 @@ void dress(QWidget *editor, const char *descriptionPrefix, const QModelIndex &in
 
 QPersistentModelIndex cellOf(const QObject *widget)
 {
-    for (const QObject *child : widget->children()) {
-        if (const CellTag *tag = dynamic_cast<const CellTag *>(child)) {
-            return tag->cell;
-        }
-    }
-    return QPersistentModelIndex();
+    const CellTag *tag = tagOf(widget);
+    return tag ? tag->cell : QPersistentModelIndex();
+}
+
+bool hasChangedColumn(const QObject *widget)
+{
+    const CellTag *tag = tagOf(widget);
+    return tag && tag->cell.isValid() && tag->cell.column() != tag->column;
 }
 
 void cover(QWidget *editor, const QStyleOptionViewItem &option)

@@ -22,6 +22,10 @@ void dress(QWidget *editor, const char *descriptionPrefix, const QModelIndex &in
 /// The cell that a widget was dressed to edit; invalid for other widgets and when the cell is gone.
 QPersistentModelIndex cellOf(const QObject *widget);
 
+/// Whether a widget was dressed to edit a cell that is now in another column. From then on the view
+/// commits it by another delegate than the one that made it and watches its keys.
+bool hasChangedColumn(const QObject *widget);
+
 /// Makes the editor cover its whole cell.
 void cover(QWidget *editor, const QStyleOptionViewItem &option);
 

@@ -13,6 +13,8 @@
 #include <QHeaderView>
 #include <QPointer>
 
+#include <algorithm>
+
 namespace {
 
 const int narrowestAbsorber = 20; // pixels
@@ -161,13 +163,19 @@ void EditableTableView::discardDelegates()
     }
 }
 
+bool EditableTableView::hasEditorInAnotherColumn() const
+{
+    const QObjectList &children = viewport()->children();
+    return std::any_of(children.begin(), children.end(), CellEditor::hasChangedColumn);
+}
+
 void EditableTableView::discardDelegate(QItemDelegate *delegate)
 {
     if (CellEditor::Commit::isUnderWay(delegate)) {
         CellEditor::Commit::whenDone(delegate, [delegate]() {
             delegate->deleteLater();
         });
-    } else if (!editors().isEmpty()) {
+    } else if (hasEditorInAnotherColumn()) {
         // It may be this one that is closing its editor: where columns moved below the editor,
         // another delegate commits it.
         delegate->deleteLater();

@@ -26,13 +26,10 @@ class ColumnWatch : public QObject
     Q_OBJECT
 
 public:
-    ColumnWatch(QLineEdit *watchedField, const QModelIndex &index)
+    ColumnWatch(QLineEdit *watchedField, const QAbstractItemModel *model)
         : QObject(watchedField)
         , field(watchedField)
-        , cell(index)
-        , column(index.column())
     {
-        const QAbstractItemModel *model = index.model();
         connect(model, SIGNAL(columnsInserted(QModelIndex,int,int)), SLOT(look()));
         connect(model, SIGNAL(columnsRemoved(QModelIndex,int,int)), SLOT(look()));
         connect(model, SIGNAL(columnsMoved(QModelIndex,int,int,QModelIndex,int)), SLOT(look()));
@@ -42,7 +39,7 @@ public:
 private Q_SLOTS:
     void look()
     {
-        if (cell.isValid() && cell.column() != column) {
+        if (CellEditor::hasChangedColumn(field)) {
             giveUp();
         }
     }
@@ -51,7 +48,7 @@ private:
     void giveUp()
     {
         // The view commits an editor that loses the focus: let it find what the cell holds.
-        field->setText(compat::text(cell.data(Qt::EditRole)));
+        field->setText(compat::text(CellEditor::cellOf(field).data(Qt::EditRole)));
         if (field->window()->focusWidget() == field && field->parentWidget()) {
             field->parentWidget()->setFocus();
         }
@@ -66,8 +63,6 @@ private:
     }
 
     QLineEdit *const field;
-    const QPersistentModelIndex cell;
-    const int column;
 };
 
 PasswordItemDelegate::PasswordItemDelegate(QObject *parent)
@@ -83,7 +78,7 @@ QWidget *PasswordItemDelegate::createEditor(QWidget *parent, const QStyleOptionV
     field->setFrame(false);
     field->setEchoMode(QLineEdit::Password);
     if (index.isValid()) {
-        new ColumnWatch(field, index);
+        new ColumnWatch(field, index.model());
     }
     return field;
 }
