@@ -236,6 +236,7 @@ void EditorSafetyTest::keepsASecretOutOfTheTextWhenColumnsMoveBelowIt()
 {
     QFETCH(QString, declaration);
     QFETCH(bool, persistent);
+    tolerateWarnings("QAbstractItemView::"); // Qt 6 has given the editor up before
     TalkativeModel model;
     EditableTableView view;
     view.setColumns(declarations() << declaration);
