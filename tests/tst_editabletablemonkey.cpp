@@ -367,7 +367,7 @@ void EditableTableMonkey::moveColumnsBelowASecret()
     } else {
         removeColumn();
     }
-    if (field) {
+    if (field && field->isEnabled()) { // one that was given up leaves its keys to the table
         typeInto(field);
         sendKey(field, Qt::Key_Return);
     }
