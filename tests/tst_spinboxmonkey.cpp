@@ -201,8 +201,10 @@ void SpinBoxMonkey::setBehavior()
     box->setButtonSymbols(static_cast<QAbstractSpinBox::ButtonSymbols>(dice.below(3)));
 }
 
+// QAbstractSpinBox can't do without a field that has the focus.
 void SpinBoxMonkey::replaceField()
 {
+    box->clearFocus();
     box->setLineEdit(new NotingField(&baseFocusIns));
 }
 

@@ -123,7 +123,8 @@ void TableMonkey::freeSections()
     }
 }
 
-// What is scrolled out of sight is hidden, or stays where it was.
+// What is scrolled out of sight is hidden, or stays where it was. From right to left the cells of a
+// view that is resized move without a layout if, as the file list, it makes none.
 void TableMonkey::lookAtPlaces()
 {
     // A layout may change the scroll bars, these the sections, and these the layout.
@@ -133,7 +134,7 @@ void TableMonkey::lookAtPlaces()
     const QList<CellButton *> buttons = buttonsInCells();
     for (const CellButton *button : buttons) {
         const QRect cell = table()->visualRect(button->index);
-        if (button->isVisible() && cell.isValid()) {
+        if (button->isVisible() && cell.isValid() && table()->isLeftToRight()) {
             expectEqual(::textOf(button->geometry()), ::textOf(cell), "place of a button");
         }
     }
