@@ -143,7 +143,7 @@ EditableTableMonkey::EditableTableMonkey(quint32 seed)
     can(50, "finishEditor", &EditableTableMonkey::finishEditor);
     can(20, "cancelEditor", &EditableTableMonkey::cancelEditor);
     can(20, "editAndLook", &EditableTableMonkey::editAndLook);
-    can(8, "moveColumnsBelowASecret", &EditableTableMonkey::moveColumnsBelowASecret);
+    can(20, "moveColumnsBelowASecret", &EditableTableMonkey::moveColumnsBelowASecret);
     can(40, "clickButton", &EditableTableMonkey::clickButton);
     can(20, "chooseReaction", &EditableTableMonkey::chooseReaction);
     can(10, "setStretchSection", &EditableTableMonkey::setStretchSection);
@@ -337,7 +337,7 @@ void EditableTableMonkey::editAndLook()
         return;
     }
     reaction = 0;
-    view->setCurrentIndex(cell);
+    makeCurrent(cell);
     sendKey(view, Qt::Key_F2);
     QLineEdit *field = qobject_cast<QLineEdit *>(view->indexWidget(cell));
     if (!field) {
@@ -354,12 +354,16 @@ void EditableTableMonkey::editAndLook()
 
 void EditableTableMonkey::moveColumnsBelowASecret()
 {
-    const QModelIndex cell = anyCell();
-    const Kind *kind = cell.isValid() ? kindOf(cell.column()) : nullptr;
-    if (!kind || qstrcmp(kind->declaration, "passwordbox") != 0 || view->indexWidget(cell)) {
+    int column = 0;
+    while (column < declared.size() && qstrcmp(kindOf(column)->declaration, "passwordbox") != 0) {
+        ++column;
+    }
+    const int row = dice.below(rowCount());
+    if (!view->model() || view->indexWidget(view->model()->index(row, column))) {
         return;
     }
-    view->setCurrentIndex(cell);
+    const QPersistentModelIndex cell = view->model()->index(row, column);
+    makeCurrent(cell);
     sendKey(view, Qt::Key_F2);
     const QPointer<QWidget> field = view->indexWidget(cell);
     if (dice.oneIn(2)) {
@@ -504,7 +508,7 @@ void EditableTableMonkey::react(int row)
 
 void EditableTableMonkey::expectButton(int row, int column)
 {
-    const QModelIndex cell = view->model()->index(row, column);
+    const QPersistentModelIndex cell = view->model()->index(row, column);
     if (cell.isValid()) {
         withButton.append(cell);
     }

@@ -30,7 +30,7 @@ TableMonkey::TableMonkey(quint32 seed)
 void TableMonkey::canUseTheTable()
 {
     canUseTheWindow();
-    can(40, "makeCurrent", &TableMonkey::makeCurrent);
+    can(40, "makeCurrent", static_cast<void (TableMonkey::*)()>(&TableMonkey::makeCurrent));
     can(5, "select", &TableMonkey::select);
     can(20, "scroll", &TableMonkey::scroll);
     can(20, "clickHeader", &TableMonkey::clickHeader);
@@ -48,12 +48,17 @@ QWidget *TableMonkey::window() const
     return table();
 }
 
-// Qt lays out in the midst of the change what is not laid out yet, and dies of it if that moves the
-// focus to or from a widget in a cell.
 void TableMonkey::makeCurrent()
 {
+    makeCurrent(anyCell());
+}
+
+// Qt lays out in the midst of the change what is not laid out yet, and dies of it if that moves the
+// focus to or from a widget in a cell.
+void TableMonkey::makeCurrent(const QPersistentModelIndex &cell)
+{
     goThroughEvents();
-    table()->setCurrentIndex(anyCell());
+    table()->setCurrentIndex(cell);
 }
 
 void TableMonkey::select()

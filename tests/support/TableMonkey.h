@@ -5,10 +5,10 @@
 #include "WidgetMonkey.h"
 
 #include <QList>
+#include <QPersistentModelIndex>
 
 class CellButton;
 class QHeaderView;
-class QModelIndex;
 class QTableView;
 
 /// Does to a table what can be done to any: scrolls, selects, and handles the sections of its
@@ -26,6 +26,7 @@ protected:
     QWidget *window() const override;
 
     void makeCurrent();
+    void makeCurrent(const QPersistentModelIndex &cell);
     void select();
     void scroll();
     void clickHeader();

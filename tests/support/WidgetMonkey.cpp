@@ -100,6 +100,7 @@ WidgetMonkey::~WidgetMonkey()
     QApplication::setFont(initialFont);
     QApplication::setLayoutDirection(Qt::LeftToRight);
     QCoreApplication::removeTranslator(&translator);
+    goThroughEvents(); // nothing is left for the next round
 }
 
 void WidgetMonkey::canUseTheWindow()
