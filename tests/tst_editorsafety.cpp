@@ -93,6 +93,7 @@ private Q_SLOTS:
     void commitsAndClosesAPersistentEditor();
     void leavesAnApplicationsOwnWidgetAlone();
     void leavesACellAloneWhoseEditorWasNotTouched();
+    void leavesACellAloneWhoseEditorWasEscaped();
     void commitsAnEditorOfAnotherTable();
     void commitsAnotherEditorOfATableThatIsCommitting();
     void keepsADelegateInUseThroughANestedEventLoop();
@@ -310,6 +311,18 @@ void EditorSafetyTest::leavesACellAloneWhoseEditorWasNotTouched()
     QVERIFY(!field);
     QCOMPARE(model.writes, QStringList());
     QCOMPARE(model.index(0, 0).data().toInt(), 7);
+}
+
+void EditorSafetyTest::leavesACellAloneWhoseEditorWasEscaped()
+{
+    TableInEdit table;
+    QVERIFY(table.editor);
+    QTest::keyClick(table.editor, Qt::Key_Escape);
+    QVERIFY(table.editor); // until the event loop turns
+
+    table.view.setColumns(declarations());
+
+    QCOMPARE(table.model->writes, QStringList());
 }
 
 void EditorSafetyTest::commitsAnEditorOfAnotherTable()

@@ -78,6 +78,7 @@ private Q_SLOTS:
     void survivesAModelThatReplacesItsColumns_data();
     void survivesAModelThatReplacesItsColumns();
     void survivesAModelReplacedWhileItsButtonIsClicked();
+    void ignoresAClickOnAReleasedButton();
     void takesAPageFromAnotherThread();
     void takesASessionFromAnotherThread();
     void sparesTheNextModelFromALatePageOrSession_data();
@@ -339,6 +340,22 @@ void FileListSafetyTest::survivesAModelReplacedWhileItsButtonIsClicked()
 
     QCOMPARE(buttonCount(view), 1);
     QVERIFY(view.indexWidget(second.index(0, 0)));
+}
+
+void FileListSafetyTest::ignoresAClickOnAReleasedButton()
+{
+    PagedModel first;
+    PagedModel second;
+    FileListTableView view;
+    view.setModel(&first);
+    const QPointer<QPushButton> released = view.viewport()->findChild<QPushButton *>();
+    QVERIFY(released);
+    view.setModel(&second);
+    QVERIFY(released); // until the event loop turns
+
+    released->click();
+
+    QCOMPARE(second.requests, 0);
 }
 
 void FileListSafetyTest::takesAPageFromAnotherThread()
