@@ -126,6 +126,7 @@ private Q_SLOTS:
     void reportsNoPressThatEndsElsewhere();
     void reportsWhatCellsHoldNotWhatTheyShow();
     void reportsOnlyEditableCellsOfTheRow();
+    void reportsTheCellsOfARowBelowAnother();
     void reportsTheCellsOfTheLatestDeclarations();
     void reportsTheRowWhereTheButtonIsNow();
     void reportsTheCellsOfARowUnderItsParent();
@@ -394,6 +395,22 @@ void ButtonCellsTest::reportsOnlyEditableCellsOfTheRow()
     QCOMPARE(report(spy), QString("1/7:b,1,1000000,typed,***,"));
 }
 
+void ButtonCellsTest::reportsTheCellsOfARowBelowAnother()
+{
+    Table table;
+    QStandardItem *parent = table.model.item(1);
+    table.view.setRootIndex(parent->index());
+    parent->appendRow(QList<QStandardItem *>() << new QStandardItem("child") << new QStandardItem);
+    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
+    const QModelIndex cell = table.model.index(0, 1, parent->index());
+    QPushButton *button = qobject_cast<QPushButton *>(table.view.indexWidget(cell));
+    QVERIFY(button);
+
+    button->click();
+
+    QCOMPARE(report(spy), QString("0/1:child"));
+}
+
 void ButtonCellsTest::reportsTheCellsOfTheLatestDeclarations()
 {
     Table table(QStringList() << "editbox"
@@ -537,6 +554,8 @@ void ButtonCellsTest::stopsTabNavigationForGoodAtTheFirstRemoval()
 
     QVERIFY(!table.view.tabKeyNavigation());
     table.model.insertRow(0);
+    QVERIFY(!table.view.tabKeyNavigation());
+    table.model.removeRow(0);
     QVERIFY(!table.view.tabKeyNavigation());
 }
 
