@@ -42,5 +42,5 @@ CellButton::CellButton(const QString &text, bool flat, QWidget *parent)
 {
     setFlat(flat);
     setAutoFillBackground(true);
-    installEventFilter(focusKeeper());
+    installEventFilter(focusKeeper()); // clazy:exclude=install-event-filter
 }
