@@ -90,6 +90,7 @@ private Q_SLOTS:
     void keepsASecretTypedAwayFromTheCurrentCellOutOfTheText();
     void keepsASecretOutOfTheTextWhenColumnsMoveBelowIt_data();
     void keepsASecretOutOfTheTextWhenColumnsMoveBelowIt();
+    void takesNoKeysIntoAFieldThatItGaveUp();
     void commitsAndClosesAPersistentEditor();
     void leavesAnApplicationsOwnWidgetAlone();
     void leavesACellAloneWhoseEditorWasNotTouched();
@@ -256,6 +257,24 @@ void EditorSafetyTest::keepsASecretOutOfTheTextWhenColumnsMoveBelowIt()
     QVERIFY(!field);
     QCOMPARE(model.writes.filter("typed"), QStringList());
     use(&view);
+}
+
+// Until it is deleted the view may show it again.
+void EditorSafetyTest::takesNoKeysIntoAFieldThatItGaveUp()
+{
+    tolerateWarnings("QAbstractItemView::"); // Qt 6 has given the editor up before
+    TalkativeModel model;
+    EditableTableView view;
+    view.setColumns(declarations());
+    view.setModel(&model);
+    showWindow(&view, 400, 200);
+    const QPointer<QWidget> field = openEditor(&view, model.index(0, 2));
+    QVERIFY(field);
+
+    model.insertColumn(0);
+
+    QVERIFY(!field || !field->isEnabled());
+    QVERIFY(QApplication::focusWidget() != field);
 }
 
 void EditorSafetyTest::commitsAndClosesAPersistentEditor()
