@@ -13,7 +13,6 @@
 #include <QLineEdit>
 
 #include <gnu/libc-version.h>
-#include <qwt_global.h>
 
 #include <cstdio>
 #include <cstring>
@@ -136,7 +135,7 @@ int main(int argc, char **argv)
 {
     const char *name = argc == 2 ? argv[1] : "";
     if (std::strcmp(name, "--versions") == 0) {
-        std::printf("Qt %s, Qwt %s, g++ %s, glibc %s\n", qVersion(), QWT_VERSION_STR, __VERSION__,
+        std::printf("Qt %s, Qwt %s, g++ %s, glibc %s\n", qVersion(), BENCH_QWT, __VERSION__,
                     gnu_get_libc_version());
         return 0;
     }
