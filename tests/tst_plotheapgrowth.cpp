@@ -58,7 +58,7 @@ void PlotHeapGrowthTest::doesNotGrowByPlots()
 
     const QString growth = HeapCounter::growth(cycles, plotCycle);
 
-    QCOMPARE(growth, QString("0 blocks, 0 bytes a cycle"));
+    QCOMPARE(growth, QString("0 blocks, 0 pointers a cycle"));
 }
 
 TESSALINE_TEST_MAIN(PlotHeapGrowthTest)
