@@ -1,90 +1,11 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "CellButton.h"
-#include "DisguisedModel.h"
-#include "EditableTableView.h"
+#include "ButtonTable.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
-#include <QAbstractItemModel>
 #include <QPointer>
-#include <QStandardItemModel>
 
 namespace {
-
-/// Lets a test announce a row, and notes the rows that are announced and how often all are laid
-/// out.
-class OpenTableView : public EditableTableView
-{
-public:
-    void doItemsLayout() override
-    {
-        ++layouts;
-        EditableTableView::doItemsLayout();
-    }
-
-    QStringList announced;
-    int layouts = 0;
-
-protected:
-    void rowsInserted(const QModelIndex &parent, int start, int end) override
-    {
-        announced.append(QString("%1-%2").arg(start).arg(end));
-        EditableTableView::rowsInserted(parent, start, end);
-    }
-
-public:
-    void announce(int row)
-    {
-        rowsInserted(QModelIndex(), row, row);
-    }
-};
-
-/// An "editbox" and a "button:Delete" column over the rows "a", "b", "c".
-struct Table
-{
-    explicit Table(const QStringList &columns = QStringList() << "editbox"
-                                                              << "button:Delete",
-                   int columnCount = 2)
-        : model(3, columnCount)
-    {
-        for (int row = 0; row < 3; ++row) {
-            model.setData(model.index(row, 0), QString(QChar('a' + row)));
-        }
-        view.setColumns(columns);
-        view.setModel(&model);
-    }
-
-    CellButton *button(int row, int column = 1)
-    {
-        return dynamic_cast<CellButton *>(view.button(row, column));
-    }
-
-    /// The rows that the buttons of column 1 believe to stand in, read from the top.
-    QString buttonRows()
-    {
-        QStringList rows;
-        for (int row = 0; row < model.rowCount(); ++row) {
-            CellButton *cell = button(row);
-            rows.append(cell ? QString::number(cell->index.row()) : QString("-"));
-        }
-        return rows.join(",");
-    }
-
-    QStandardItemModel model;
-    OpenTableView view;
-};
-
-QString report(const QSignalSpy &spy)
-{
-    QStringList lines;
-    for (const QList<QVariant> &arguments : spy) {
-        lines.append(QString("%1/%2:%3")
-                         .arg(arguments.at(1).toInt())
-                         .arg(arguments.at(2).toInt())
-                         .arg(arguments.at(3).toStringList().join(",")));
-    }
-    return lines.join(" ");
-}
 
 class GermanCaptions : public compat::Translator
 {
@@ -122,16 +43,6 @@ private Q_SLOTS:
     void makesNoButtonsForShownRowsWhenColumnsAreDeclared();
     void makesTheMissingButtonsWhenTheModelIsSetAgain();
     void leavesAnotherWidgetInAButtonCell();
-    void reportsAClick();
-    void reportsNoPressThatEndsElsewhere();
-    void reportsWhatCellsHoldNotWhatTheyShow();
-    void reportsOnlyEditableCellsOfTheRow();
-    void reportsTheCellsOfARowBelowAnother();
-    void reportsTheCellsOfTheLatestDeclarations();
-    void reportsTheRowWhereTheButtonIsNow();
-    void reportsTheCellsOfARowUnderItsParent();
-    void reportsAKeyPress();
-    void leavesTheCurrentCellAloneWhenAButtonGetsTheFocus();
     void buttonsFollowTheirRows_data();
     void buttonsFollowTheirRows();
     void releasesTheButtonsOfRemovedRows();
@@ -140,16 +51,11 @@ private Q_SLOTS:
     void findsTheWidgetOfACell();
     void bindsAComboColumn_data();
     void bindsAComboColumn();
-    void coversItsCellInAShownView();
-    void laysOutRowsAppendedToAShownView();
-    void showsNoButtonInAWrongPlaceBeforeTheLayout();
-    void laysOutABurstOfRowsOnce();
-    void keepsAnEditorOpenWhenARowIsInserted();
 };
 
 void ButtonCellsTest::givesEveryRowOfAModelAFlatButton()
 {
-    Table table;
+    ButtonTable table;
 
     for (int row = 0; row < 3; ++row) {
         QVERIFY(table.button(row));
@@ -162,12 +68,12 @@ void ButtonCellsTest::givesEveryRowOfAModelAFlatButton()
 
 void ButtonCellsTest::describesAButtonByItsColumn()
 {
-    Table table(QStringList() << "button:A"
-                              << ""
-                              << ""
-                              << ""
-                              << "button:B",
-                5);
+    ButtonTable table(QStringList() << "button:A"
+                                    << ""
+                                    << ""
+                                    << ""
+                                    << "button:B",
+                      5);
 
     QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(table.button(0, 4));
 
@@ -179,7 +85,7 @@ void ButtonCellsTest::describesAButtonByItsColumn()
 
 void ButtonCellsTest::announcesTheRowsOfAModelOneByOne()
 {
-    Table table;
+    ButtonTable table;
 
     QCOMPARE(table.view.announced,
              QStringList() << "0-0"
@@ -209,7 +115,7 @@ void ButtonCellsTest::captionsItsButtons()
 {
     QFETCH(QString, declaration);
 
-    Table table(QStringList() << "" << declaration);
+    ButtonTable table(QStringList() << "" << declaration);
 
     QVERIFY(table.button(0));
     QTEST(table.button(0)->text(), "caption");
@@ -218,7 +124,7 @@ void ButtonCellsTest::captionsItsButtons()
 void ButtonCellsTest::translatesACaptionWhenTheButtonIsMade()
 {
     GermanCaptions german;
-    Table table;
+    ButtonTable table;
     QCoreApplication::installTranslator(&german);
 
     table.model.appendRow(QList<QStandardItem *>() << new QStandardItem << new QStandardItem);
@@ -233,7 +139,7 @@ void ButtonCellsTest::translatesACaptionBeyondAscii()
     GermanCaptions german;
     QCoreApplication::installTranslator(&german);
 
-    Table table(QStringList() << "" << QString::fromUtf8("button:L\xc3\xb6schen"));
+    ButtonTable table(QStringList() << "" << QString::fromUtf8("button:L\xc3\xb6schen"));
 
     QCoreApplication::removeTranslator(&german);
     QCOMPARE(table.button(0)->text(), QString("Weg damit"));
@@ -241,7 +147,7 @@ void ButtonCellsTest::translatesACaptionBeyondAscii()
 
 void ButtonCellsTest::givesTheFirstRowOfABlockItsButtonsOnly()
 {
-    Table table;
+    ButtonTable table;
 
     table.model.insertRows(3, 3);
 
@@ -250,7 +156,7 @@ void ButtonCellsTest::givesTheFirstRowOfABlockItsButtonsOnly()
 
 void ButtonCellsTest::givesACellOneButtonOnly()
 {
-    Table table;
+    ButtonTable table;
     const QPointer<CellButton> first = table.button(1);
 
     table.view.announce(1);
@@ -261,10 +167,10 @@ void ButtonCellsTest::givesACellOneButtonOnly()
 
 void ButtonCellsTest::makesButtonsInEachButtonColumn()
 {
-    Table table(QStringList() << "button:A"
-                              << "editbox"
-                              << "button:B",
-                3);
+    ButtonTable table(QStringList() << "button:A"
+                                    << "editbox"
+                                    << "button:B",
+                      3);
 
     QCOMPARE(buttonMarks(table.view, 0), QString("xxx"));
     QCOMPARE(buttonMarks(table.view, 1), QString("..."));
@@ -274,10 +180,10 @@ void ButtonCellsTest::makesButtonsInEachButtonColumn()
 
 void ButtonCellsTest::ignoresAButtonColumnThatTheModelLacks()
 {
-    Table table(QStringList() << "editbox"
-                              << ""
-                              << "button:Beyond",
-                2);
+    ButtonTable table(QStringList() << "editbox"
+                                    << ""
+                                    << "button:Beyond",
+                      2);
 
     table.model.insertRow(0);
 
@@ -286,7 +192,7 @@ void ButtonCellsTest::ignoresAButtonColumnThatTheModelLacks()
 
 void ButtonCellsTest::keepsExistingButtonsWhenColumnsAreDeclaredAnew()
 {
-    Table table;
+    ButtonTable table;
 
     table.view.setColumns(QStringList() << "editbox"
                                         << "button:New");
@@ -298,7 +204,7 @@ void ButtonCellsTest::keepsExistingButtonsWhenColumnsAreDeclaredAnew()
 
 void ButtonCellsTest::makesNoButtonsForShownRowsWhenColumnsAreDeclared()
 {
-    Table table(QStringList() << "editbox");
+    ButtonTable table(QStringList() << "editbox");
 
     table.view.setColumns(QStringList() << "editbox"
                                         << "button:Late");
@@ -308,7 +214,7 @@ void ButtonCellsTest::makesNoButtonsForShownRowsWhenColumnsAreDeclared()
 
 void ButtonCellsTest::makesTheMissingButtonsWhenTheModelIsSetAgain()
 {
-    Table table(QStringList() << "editbox");
+    ButtonTable table(QStringList() << "editbox");
     table.view.setColumns(QStringList() << "editbox"
                                         << "button:Late");
 
@@ -319,8 +225,8 @@ void ButtonCellsTest::makesTheMissingButtonsWhenTheModelIsSetAgain()
 
 void ButtonCellsTest::leavesAnotherWidgetInAButtonCell()
 {
-    Table table(QStringList() << "button:A"
-                              << "button:B");
+    ButtonTable table(QStringList() << "button:A"
+                                    << "button:B");
     table.model.insertRows(3, 2); // the second row of them gets no buttons
     QWidget *own = new QWidget;
     table.view.setIndexWidget(table.model.index(4, 0), own);
@@ -329,158 +235,6 @@ void ButtonCellsTest::leavesAnotherWidgetInAButtonCell()
 
     QCOMPARE(table.view.indexWidget(table.model.index(4, 0)), own);
     QVERIFY(table.button(4, 1));
-}
-
-void ButtonCellsTest::reportsAClick()
-{
-    Table table;
-    showWindow(&table.view, 400, 200);
-    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
-
-    QTest::mouseClick(table.button(2), Qt::LeftButton);
-
-    QCOMPARE(report(spy), QString("2/1:c"));
-    QCOMPARE(spy.at(0).at(0).value<QWidget *>(), static_cast<QWidget *>(table.button(2)));
-}
-
-void ButtonCellsTest::reportsNoPressThatEndsElsewhere()
-{
-    Table table;
-    showWindow(&table.view, 400, 200);
-    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
-
-    QTest::mousePress(table.button(1), Qt::LeftButton);
-    QTest::mouseRelease(table.button(1), Qt::LeftButton, Qt::NoModifier, QPoint(-5, -5));
-
-    QCOMPARE(report(spy), QString());
-}
-
-void ButtonCellsTest::reportsWhatCellsHoldNotWhatTheyShow()
-{
-    DisguisedModel model("held", 2);
-    Table table;
-    table.view.setModel(&model);
-    showWindow(&table.view, 400, 200);
-    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
-
-    QTest::mouseClick(table.button(0), Qt::LeftButton);
-
-    QCOMPARE(report(spy), QString("0/1:held"));
-}
-
-void ButtonCellsTest::reportsOnlyEditableCellsOfTheRow()
-{
-    Table table(QStringList() << "editbox"
-                              << "button"
-                              << "checkbox"
-                              << ""
-                              << "combobox"
-                              << "editcombobox"
-                              << "passwordbox"
-                              << "button"
-                              << "editbox",
-                8);
-    table.model.setData(table.model.index(1, 2), "1");
-    table.model.setData(table.model.index(1, 3), "plain");
-    table.model.setData(table.model.index(1, 4), 1000000.0);
-    table.model.setData(table.model.index(1, 5), "typed");
-    table.model.setData(table.model.index(1, 6), "***");
-    table.model.setData(table.model.index(1, 6), "secret", Qt::UserRole + 1);
-    showWindow(&table.view, 900, 200);
-    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
-
-    QTest::mouseClick(table.button(1, 7), Qt::LeftButton);
-
-    // The model has no column 8, whose declaration still takes its place.
-    QCOMPARE(report(spy), QString("1/7:b,1,1000000,typed,***,"));
-}
-
-void ButtonCellsTest::reportsTheCellsOfARowBelowAnother()
-{
-    Table table;
-    QStandardItem *parent = table.model.item(1);
-    table.view.setRootIndex(parent->index());
-    parent->appendRow(QList<QStandardItem *>() << new QStandardItem("child") << new QStandardItem);
-    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
-    const QModelIndex cell = table.model.index(0, 1, parent->index());
-    QPushButton *button = qobject_cast<QPushButton *>(table.view.indexWidget(cell));
-    QVERIFY(button);
-
-    button->click();
-
-    QCOMPARE(report(spy), QString("0/1:child"));
-}
-
-void ButtonCellsTest::reportsTheCellsOfTheLatestDeclarations()
-{
-    Table table(QStringList() << "editbox"
-                              << "button"
-                              << "editbox",
-                3);
-    table.view.setColumns(QStringList() << ""
-                                        << "button"
-                                        << "checkbox");
-    table.model.setData(table.model.index(0, 2), "1");
-    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
-
-    table.button(0)->click();
-
-    QCOMPARE(report(spy), QString("0/1:1"));
-}
-
-void ButtonCellsTest::reportsTheRowWhereTheButtonIsNow()
-{
-    Table table;
-    showWindow(&table.view, 400, 200);
-    CellButton *button = table.button(1);
-    table.model.insertRow(0);
-    QCoreApplication::processEvents();
-    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
-
-    QTest::mouseClick(button, Qt::LeftButton);
-
-    QCOMPARE(report(spy), QString("2/1:b"));
-}
-
-void ButtonCellsTest::reportsTheCellsOfARowUnderItsParent()
-{
-    Table table;
-    QStandardItem *parent = table.model.item(1, 0);
-    table.view.setRootIndex(parent->index());
-    parent->appendRow(QList<QStandardItem *>() << new QStandardItem("child") << new QStandardItem);
-    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
-
-    qobject_cast<QPushButton *>(table.view.indexWidget(parent->child(0, 1)->index()))->click();
-
-    QCOMPARE(report(spy), QString("0/1:child"));
-}
-
-void ButtonCellsTest::reportsAKeyPress()
-{
-    Table table;
-    showWindow(&table.view, 400, 200);
-    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
-    table.button(0)->setFocus();
-
-    QTest::keyClick(table.button(0), Qt::Key_Space);
-
-    QCOMPARE(report(spy), QString("0/1:a"));
-}
-
-void ButtonCellsTest::leavesTheCurrentCellAloneWhenAButtonGetsTheFocus()
-{
-    Table table;
-    showWindow(&table.view, 400, 200);
-    table.view.setCurrentIndex(table.model.index(0, 0));
-    // Straight from the table to a button the base class does move the current cell, in every Qt.
-    table.button(1)->setFocus();
-    table.view.setCurrentIndex(table.model.index(0, 0));
-
-    QTest::mouseClick(table.button(2), Qt::LeftButton);
-
-    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(table.button(2)));
-    QCOMPARE(table.view.currentIndex(), table.model.index(0, 0));
-    QVERIFY(!table.view.selectionModel()->isSelected(table.model.index(2, 1)));
 }
 
 void ButtonCellsTest::buttonsFollowTheirRows_data()
@@ -499,7 +253,7 @@ void ButtonCellsTest::buttonsFollowTheirRows_data()
 void ButtonCellsTest::buttonsFollowTheirRows()
 {
     QFETCH(QString, change);
-    Table table;
+    ButtonTable table;
     showWindow(&table.view, 400, 200);
     const QPointer<CellButton> lastRows = table.button(2);
 
@@ -522,7 +276,7 @@ void ButtonCellsTest::buttonsFollowTheirRows()
 
 void ButtonCellsTest::releasesTheButtonsOfRemovedRows()
 {
-    Table table;
+    ButtonTable table;
     const QPointer<CellButton> removed = table.button(1);
 
     table.model.removeRows(1, 1);
@@ -535,7 +289,7 @@ void ButtonCellsTest::releasesTheButtonsOfRemovedRows()
 
 void ButtonCellsTest::releasesAllButtonsWithTheModel()
 {
-    Table table;
+    ButtonTable table;
     QStandardItemModel other(1, 2);
 
     table.view.setModel(&other);
@@ -547,7 +301,7 @@ void ButtonCellsTest::releasesAllButtonsWithTheModel()
 
 void ButtonCellsTest::stopsTabNavigationForGoodAtTheFirstRemoval()
 {
-    Table table;
+    ButtonTable table;
     QVERIFY(table.view.tabKeyNavigation());
 
     table.model.removeRow(0);
@@ -561,7 +315,7 @@ void ButtonCellsTest::stopsTabNavigationForGoodAtTheFirstRemoval()
 
 void ButtonCellsTest::findsTheWidgetOfACell()
 {
-    Table table;
+    ButtonTable table;
     showWindow(&table.view, 400, 200);
 
     QVERIFY(!table.view.button(0, 0));
@@ -591,7 +345,7 @@ void ButtonCellsTest::bindsAComboColumn()
     for (int column = 0; column < 3; ++column) {
         items.setData(items.index(0, column), QString::number(column));
     }
-    Table table(QStringList() << columns);
+    ButtonTable table(QStringList() << columns);
     showWindow(&table.view, 400, 200);
 
     const bool bound = modelColumn < 0
@@ -607,78 +361,6 @@ void ButtonCellsTest::bindsAComboColumn()
     QTest::keyClick(box, Qt::Key_Down);
     commitEditor(box);
     QTEST(table.model.index(0, 0).data().toString(), "first");
-}
-
-void ButtonCellsTest::coversItsCellInAShownView()
-{
-    Table table;
-    showWindow(&table.view, 400, 200);
-
-    for (int row = 0; row < 3; ++row) {
-        QVERIFY(table.button(row)->isVisible());
-        QCOMPARE(table.button(row)->geometry(), table.view.visualRect(table.model.index(row, 1)));
-    }
-}
-
-void ButtonCellsTest::laysOutRowsAppendedToAShownView()
-{
-    Table table;
-    showWindow(&table.view, 400, 300);
-
-    for (int row = 3; row < 6; ++row) {
-        table.model.insertRow(row);
-    }
-    QCoreApplication::processEvents();
-
-    for (int row = 0; row < 6; ++row) {
-        QCOMPARE(table.button(row)->geometry(), table.view.visualRect(table.model.index(row, 1)));
-    }
-}
-
-void ButtonCellsTest::showsNoButtonInAWrongPlaceBeforeTheLayout()
-{
-    Table table;
-    showWindow(&table.view, 400, 300);
-
-    table.model.insertRow(3);
-    table.model.insertRow(4);
-
-    for (int row = 3; row < 5; ++row) {
-        const QRect place = table.button(row)->geometry();
-        QVERIFY(place.isEmpty() || place == table.view.visualRect(table.model.index(row, 1)));
-    }
-}
-
-void ButtonCellsTest::laysOutABurstOfRowsOnce()
-{
-    Table table;
-    showWindow(&table.view, 400, 300);
-    QCoreApplication::processEvents();
-    table.view.layouts = 0;
-
-    for (int row = 3; row < 23; ++row) {
-        table.model.insertRow(row);
-    }
-    QCoreApplication::processEvents();
-
-    QVERIFY(table.view.layouts <= 2);
-}
-
-void ButtonCellsTest::keepsAnEditorOpenWhenARowIsInserted()
-{
-    Table table;
-    showWindow(&table.view, 400, 200);
-    QPointer<QWidget> editor = openEditor(&table.view, table.model.index(1, 0));
-    QVERIFY(editor);
-    QTest::keyClicks(editor, "typed");
-
-    table.model.insertRow(0);
-    QCoreApplication::processEvents();
-
-    QVERIFY(editor);
-    QCOMPARE(editor->geometry(), table.view.visualRect(table.model.index(2, 0)));
-    commitEditor(editor);
-    QCOMPARE(texts(table.model, 0), QString(",a,typed,c"));
 }
 
 TESSALINE_TEST_MAIN(ButtonCellsTest)

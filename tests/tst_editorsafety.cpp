@@ -1,82 +1,12 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "CellEditor.h"
-#include "EditableTableView.h"
-#include "RecordingModel.h"
+#include "TableInEdit.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
 #include <QAbstractItemDelegate>
-#include <QEventLoop>
 #include <QLineEdit>
 #include <QPointer>
 #include <QStringListModel>
-#include <QTimer>
-
-namespace {
-
-QStringList declarations()
-{
-    return QStringList() << "editbox"
-                         << "button:Go"
-                         << "passwordbox";
-}
-
-/// A model that announces each write, even of what it holds already, as many do.
-class TalkativeModel : public RecordingModel
-{
-public:
-    TalkativeModel()
-        : RecordingModel(3, 3)
-    {
-    }
-
-    bool setData(const QModelIndex &index, const QVariant &value, int role) override
-    {
-        const bool done = RecordingModel::setData(index, value, role);
-        emit dataChanged(index, index);
-        return done;
-    }
-};
-
-/// A shown table with an editor open in its first cell, into which "typed" was typed.
-struct TableInEdit
-{
-    explicit TableInEdit(int column = 0)
-        : model(new TalkativeModel)
-    {
-        view.setColumns(declarations());
-        view.setModel(model);
-        showWindow(&view, 400, 200);
-        editor = openEditor(&view, model->index(0, column));
-        QTest::keyClicks(editor, "typed");
-        model->writes.clear();
-    }
-
-    ~TableInEdit()
-    {
-        delete model;
-    }
-
-    QPointer<RecordingModel> model;
-    EditableTableView view;
-    QPointer<QWidget> editor;
-};
-
-void addRowsForTheEditors()
-{
-    QTest::addColumn<QString>("declaration");
-
-    const QStringList editors = QStringList() << "combobox"
-                                              << "editcombobox"
-                                              << "editbox"
-                                              << "passwordbox"
-                                              << "checkbox";
-    for (const QString &declaration : editors) {
-        QTest::newRow(qPrintable(declaration)) << declaration;
-    }
-}
-
-} // namespace
 
 /// What happens to an open editor, and to what was typed, when things change under it.
 class EditorSafetyTest : public TestCase
@@ -95,63 +25,13 @@ private Q_SLOTS:
     void leavesAnApplicationsOwnWidgetAlone();
     void leavesACellAloneWhoseEditorWasNotTouched();
     void leavesACellAloneWhoseEditorWasEscaped();
-    void commitsAnEditorOfAnotherTable();
-    void commitsAnotherEditorOfATableThatIsCommitting();
-    void keepsADelegateInUseThroughANestedEventLoop();
-    void isCommittingWhileItWrites_data();
-    void isCommittingWhileItWrites();
-    void survivesColumnsDeclaredAnewDuringACommit_data();
-    void survivesColumnsDeclaredAnewDuringACommit();
-    void keepsADelegateThatClosesAnEditorWhichAnotherCommits();
     void survivesAModelReplacedDuringAnEdit();
     void writesNothingIntoAModelThatComesDuringAnEdit_data();
     void writesNothingIntoAModelThatComesDuringAnEdit();
     void survivesARowRemovedDuringAnEdit();
     void commitsAnEditorInTheRowItMovedTo();
     void closesAnEditorThatHasNoDelegateAnyMore();
-
-public Q_SLOTS:
-    void declareColumnsAnew();
-    void declareColumnsAnewInALoop();
-    void declareColumnsAnewAndLook();
-    void noteACommit();
-
-private:
-    QPointer<EditableTableView> actedOn;
-    QPointer<QObject> delegateInUse;
-    bool wasAliveAfterTheLoop = false;
-    bool wasAliveAfterwards = false;
-    bool wasCommitting = false;
 };
-
-void EditorSafetyTest::declareColumnsAnew()
-{
-    actedOn->setColumns(declarations());
-}
-
-void EditorSafetyTest::declareColumnsAnewInALoop()
-{
-    if (!delegateInUse || wasAliveAfterTheLoop) {
-        return;
-    }
-    QEventLoop loop;
-    QTimer::singleShot(0, this, SLOT(declareColumnsAnew()));
-    QTimer::singleShot(20, &loop, SLOT(quit()));
-    loop.exec();
-    compat::deliverDeferredDeletes();
-    wasAliveAfterTheLoop = !delegateInUse.isNull();
-}
-
-void EditorSafetyTest::declareColumnsAnewAndLook()
-{
-    actedOn->setColumns(declarations());
-    wasAliveAfterwards = !delegateInUse.isNull();
-}
-
-void EditorSafetyTest::noteACommit()
-{
-    wasCommitting = CellEditor::Commit::isUnderWay(actedOn->itemDelegateForColumn(0));
-}
 
 void EditorSafetyTest::survivesAModelThatDiesDuringAnEdit()
 {
@@ -342,135 +222,6 @@ void EditorSafetyTest::leavesACellAloneWhoseEditorWasEscaped()
     table.view.setColumns(declarations());
 
     QCOMPARE(table.model->writes, QStringList());
-}
-
-void EditorSafetyTest::commitsAnEditorOfAnotherTable()
-{
-    RecordingModel otherModel(1, 3);
-    EditableTableView other;
-    other.setColumns(declarations());
-    other.setModel(&otherModel);
-    other.openPersistentEditor(otherModel.index(0, 0));
-    QTest::keyClicks(other.indexWidget(otherModel.index(0, 0)), "other");
-    TableInEdit table;
-    QVERIFY(table.editor);
-    actedOn = &other;
-    connect(table.model, SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(declareColumnsAnew()));
-
-    QTest::keyClick(table.editor, Qt::Key_Return);
-    goThroughEvents();
-
-    QCOMPARE(otherModel.index(0, 0).data().toString(), QString("other"));
-    QCOMPARE(table.model->index(0, 0).data().toString(), QString("typed"));
-}
-
-void EditorSafetyTest::commitsAnotherEditorOfATableThatIsCommitting()
-{
-    TableInEdit table;
-    QVERIFY(table.editor);
-    table.view.openPersistentEditor(table.model->index(1, 0));
-    QTest::keyClicks(table.view.indexWidget(table.model->index(1, 0)), "other");
-    actedOn = &table.view;
-    connect(table.model, SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(declareColumnsAnew()));
-
-    QTest::keyClick(table.editor, Qt::Key_Return);
-    goThroughEvents();
-
-    QCOMPARE(texts(*table.model, 0), QString("typed,other,"));
-}
-
-void EditorSafetyTest::keepsADelegateInUseThroughANestedEventLoop()
-{
-    TableInEdit table;
-    QVERIFY(table.editor);
-    actedOn = &table.view;
-    delegateInUse = table.view.itemDelegateForColumn(0);
-    connect(table.model,
-            SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(declareColumnsAnewInALoop()));
-
-    QTest::keyClick(table.editor, Qt::Key_Return);
-    goThroughEvents();
-
-    QVERIFY(wasAliveAfterTheLoop);
-    QVERIFY(delegateInUse.isNull()); // gone when nobody uses it any more
-}
-
-void EditorSafetyTest::isCommittingWhileItWrites_data()
-{
-    addRowsForTheEditors();
-}
-
-void EditorSafetyTest::isCommittingWhileItWrites()
-{
-    QFETCH(QString, declaration);
-    QStringListModel items(QStringList() << "typed");
-    RecordingModel model(1, 1);
-    EditableTableView view;
-    view.setColumns(QStringList(declaration));
-    view.bindModel(0, &items);
-    view.setModel(&model);
-    showWindow(&view, 400, 200);
-    QWidget *editor = openEditor(&view, model.index(0, 0));
-    QVERIFY(editor);
-    QTest::keyClicks(editor, "typed");
-    QTest::keyClick(editor, Qt::Key_Space); // checks a box
-    actedOn = &view;
-    wasCommitting = false;
-    connect(&model, SIGNAL(itemChanged(QStandardItem*)), SLOT(noteACommit()));
-
-    view.itemDelegateForColumn(0)->setModelData(editor, &model, model.index(0, 0));
-
-    QVERIFY(!model.writes.isEmpty());
-    QVERIFY(wasCommitting);
-}
-
-void EditorSafetyTest::survivesColumnsDeclaredAnewDuringACommit_data()
-{
-    QTest::addColumn<int>("column");
-
-    QTest::newRow("edit") << 0;
-    QTest::newRow("password") << 2;
-}
-
-void EditorSafetyTest::survivesColumnsDeclaredAnewDuringACommit()
-{
-    QFETCH(int, column);
-    TableInEdit table(column);
-    QVERIFY(table.editor);
-    actedOn = &table.view;
-    const QPointer<QObject> old = table.view.itemDelegateForColumn(column);
-    connect(table.model, SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(declareColumnsAnew()));
-
-    QTest::keyClick(table.editor, Qt::Key_Return);
-    goThroughEvents();
-    use(&table.view);
-
-    QVERIFY(!table.editor);
-    QVERIFY(old.isNull());
-    const int role = column == 0 ? int(Qt::EditRole) : Qt::UserRole + 1;
-    QCOMPARE(table.model->index(0, column).data(role).toString(), QString("typed"));
-}
-
-void EditorSafetyTest::keepsADelegateThatClosesAnEditorWhichAnotherCommits()
-{
-    tolerateWarnings("QAbstractItemView::"); // Qt 6 gives the editor up instead
-    TalkativeModel model;
-    EditableTableView view;
-    view.setColumns(QStringList() << "editbox");
-    view.setModel(&model);
-    showWindow(&view, 400, 200);
-    QWidget *field = openEditor(&view, model.index(0, 0));
-    QVERIFY(field);
-    QTest::keyClicks(field, "typed");
-    delegateInUse = view.itemDelegateForColumn(0);
-    actedOn = &view;
-    connect(&model,
-            SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(declareColumnsAnewAndLook()));
-    model.insertColumn(0); // the plain column's delegate commits the editor from now on
-
-    view.setFocus();
-
-    QVERIFY(wasAliveAfterwards || model.writes.isEmpty());
 }
 
 void EditorSafetyTest::survivesAModelReplacedDuringAnEdit()
