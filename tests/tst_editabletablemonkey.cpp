@@ -456,13 +456,15 @@ void EditableTableMonkey::dragSectionAndLook()
 void EditableTableMonkey::show(QAbstractItemModel *model)
 {
     QList<QPersistentModelIndex> free;
+    QList<QPersistentModelIndex> edited; // of which some may get free now
     const bool isNew = model != view->model();
     for (int row = 0; model && row < model->rowCount(); ++row) {
         for (int column = 0; column < model->columnCount(); ++column) {
             const QModelIndex cell = model->index(row, column);
             const Kind *kind = kindOf(column);
-            if (kind && kind->isButton && (isNew || !view->indexWidget(cell))) {
-                free.append(cell);
+            if (kind && kind->isButton && !(buttonAt(cell) && !isNew)) {
+                const bool isFree = isNew || !view->indexWidget(cell);
+                (isFree ? free : edited).append(cell);
             }
         }
     }
@@ -479,6 +481,11 @@ void EditableTableMonkey::show(QAbstractItemModel *model)
         connect(model, SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(noteWrite(QModelIndex)));
     }
     withButton += free;
+    for (const QPersistentModelIndex &cell : edited) {
+        if (buttonAt(cell)) {
+            withButton.append(cell);
+        }
+    }
 }
 
 void EditableTableMonkey::react(int row)

@@ -20,6 +20,8 @@ private Q_SLOTS:
     void keepsASecretTypedAwayFromTheCurrentCellOutOfTheText();
     void keepsASecretOutOfTheTextWhenColumnsMoveBelowIt_data();
     void keepsASecretOutOfTheTextWhenColumnsMoveBelowIt();
+    void keepsASecretOutOfTheTextWhenItsColumnIsHiddenAndMoves_data();
+    void keepsASecretOutOfTheTextWhenItsColumnIsHiddenAndMoves();
     void takesNoKeysIntoAFieldThatItGaveUp();
     void commitsAndClosesAPersistentEditor();
     void leavesAnApplicationsOwnWidgetAlone();
@@ -137,6 +139,33 @@ void EditorSafetyTest::keepsASecretOutOfTheTextWhenColumnsMoveBelowIt()
     QVERIFY(!field);
     QCOMPARE(model.writes.filter("typed"), QStringList());
     use(&view);
+}
+
+void EditorSafetyTest::keepsASecretOutOfTheTextWhenItsColumnIsHiddenAndMoves_data()
+{
+    QTest::addColumn<bool>("isRemoved");
+
+    QTest::newRow("a column inserted before") << false;
+    QTest::newRow("a column removed before") << true;
+}
+
+// The view hides the field, which loses the focus and is committed, in the midst of the move.
+void EditorSafetyTest::keepsASecretOutOfTheTextWhenItsColumnIsHiddenAndMoves()
+{
+    QFETCH(bool, isRemoved);
+    tolerateWarnings("QAbstractItemView::"); // Qt 6 has given the editor up before
+    TableInEdit table(2);
+    QVERIFY(table.editor);
+    table.view.hideColumn(2);
+
+    if (isRemoved) {
+        table.model->removeColumn(0);
+    } else {
+        table.model->insertColumn(0);
+    }
+    goThroughEvents();
+
+    QCOMPARE(table.model->writes.filter("edit typed"), QStringList());
 }
 
 // Until it is deleted the view may show it again.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "EditorFixture.h"
+#include "GridModel.h"
 #include "PasswordItemDelegate.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
@@ -15,6 +16,19 @@ QString mask(const EditorFixture &fixture, int length)
     const int character
         = fixture.view.style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, nullptr);
     return QString(length, QChar(ushort(character)));
+}
+
+void changeColumns(GridModel *model, const QString &change, int column, int destination)
+{
+    if (change == "insert") {
+        model->insertColumns(column, 1);
+    } else if (change == "remove") {
+        model->removeColumns(column, 1);
+    } else if (change == "move") {
+        model->shiftColumn(column, destination);
+    } else {
+        model->mirrorColumns();
+    }
 }
 
 } // namespace
@@ -36,6 +50,8 @@ private Q_SLOTS:
     void asksTheModelOnlyForWhatDecides();
     void masksWhatWasTypedThoughTheFieldIsLoadedAgain();
     void survivesARowThatGoesWithItsFirstWrite();
+    void givesAFieldUpWhoseColumnMoves_data();
+    void givesAFieldUpWhoseColumnMoves();
     void leavesAForeignEditorAlone();
 };
 
@@ -259,6 +275,44 @@ void PasswordItemDelegateTest::survivesARowThatGoesWithItsFirstWrite()
     delegate.setModelData(&field, &model, model.index(0, 0));
 
     QCOMPARE(model.writes, QStringList() << "secret abc");
+}
+
+void PasswordItemDelegateTest::givesAFieldUpWhoseColumnMoves_data()
+{
+    QTest::addColumn<int>("columnCount");
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<int>("destination");
+    QTest::addColumn<bool>("isGivenUp");
+
+    QTest::newRow("inserted before it") << 5 << "insert" << 0 << 0 << true;
+    QTest::newRow("inserted in its place") << 5 << "insert" << 2 << 0 << true;
+    QTest::newRow("inserted behind it") << 5 << "insert" << 3 << 0 << false;
+    QTest::newRow("removed before it") << 5 << "remove" << 0 << 0 << true;
+    QTest::newRow("removed behind it") << 5 << "remove" << 3 << 0 << false;
+    QTest::newRow("moved from before it to behind it") << 5 << "move" << 1 << 3 << true;
+    QTest::newRow("moved from behind it to before it") << 5 << "move" << 4 << 2 << true;
+    QTest::newRow("moved before it") << 5 << "move" << 0 << 2 << false;
+    QTest::newRow("moved behind it") << 5 << "move" << 4 << 3 << false;
+    QTest::newRow("moved away") << 5 << "move" << 2 << 5 << true;
+    QTest::newRow("mirrored to another place") << 6 << "mirror" << 0 << 0 << true;
+    QTest::newRow("mirrored to its own place") << 5 << "mirror" << 0 << 0 << false;
+}
+
+void PasswordItemDelegateTest::givesAFieldUpWhoseColumnMoves()
+{
+    QFETCH(int, columnCount);
+    QFETCH(QString, change);
+    QFETCH(int, column);
+    QFETCH(int, destination);
+    GridModel model(1, columnCount);
+    const PasswordItemDelegate delegate;
+    QWidget parent;
+    QWidget *field = delegate.createEditor(&parent, QStyleOptionViewItem(), model.index(0, 2));
+
+    changeColumns(&model, change, column, destination);
+
+    QTEST(!field->isEnabled(), "isGivenUp");
 }
 
 void PasswordItemDelegateTest::leavesAForeignEditorAlone()

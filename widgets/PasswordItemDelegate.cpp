@@ -30,13 +30,38 @@ public:
         : QObject(watchedField)
         , field(watchedField)
     {
-        connect(model, SIGNAL(columnsInserted(QModelIndex,int,int)), SLOT(look()));
-        connect(model, SIGNAL(columnsRemoved(QModelIndex,int,int)), SLOT(look()));
-        connect(model, SIGNAL(columnsMoved(QModelIndex,int,int,QModelIndex,int)), SLOT(look()));
+        // Before they move: afterwards the view may already have hidden and committed the field.
+        connect(model,
+                SIGNAL(columnsAboutToBeInserted(QModelIndex,int,int)),
+                       SLOT(shift(QModelIndex,int)));
+        connect(model,
+                SIGNAL(columnsAboutToBeRemoved(QModelIndex,int,int)), SLOT(shift(QModelIndex,int)));
+        connect(model,
+                SIGNAL(columnsAboutToBeMoved(QModelIndex,int,int,QModelIndex,int)),
+                       SLOT(move(QModelIndex,int,int,QModelIndex,int)));
         connect(model, SIGNAL(layoutChanged()), SLOT(look()));
     }
 
 private Q_SLOTS:
+    void shift(const QModelIndex &parent, int first)
+    {
+        const QModelIndex cell = CellEditor::cellOf(field);
+        if (cell.parent() == parent && cell.column() >= first) {
+            giveUp();
+        }
+    }
+
+    void move(const QModelIndex &parent, int first, int last, const QModelIndex &newParent,
+              int destination)
+    {
+        if (parent != newParent) {
+            shift(parent, first);
+            shift(newParent, destination);
+        } else if (CellEditor::cellOf(field).column() < qMax(destination, last + 1)) {
+            shift(parent, qMin(first, destination));
+        }
+    }
+
     void look()
     {
         if (CellEditor::hasChangedColumn(field)) {

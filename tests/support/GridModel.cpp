@@ -28,6 +28,16 @@ private:
     bool *const changing;
 };
 
+template <class Items> void shift(Items *items, int from, int to)
+{
+    const auto item = items->begin() + from;
+    if (to > from) {
+        std::rotate(item, item + 1, items->begin() + to);
+    } else {
+        std::rotate(items->begin() + to, item, item + 1);
+    }
+}
+
 } // namespace
 
 GridModel::GridModel(int rows, int columns, QObject *parent)
@@ -162,16 +172,35 @@ void GridModel::sort(int column, Qt::SortOrder order)
 void GridModel::shiftRow(int from, int to)
 {
     const Change change(&changing);
-    if (!beginMoveRows(QModelIndex(), from, from, QModelIndex(), to)) {
-        return;
+    if (beginMoveRows(QModelIndex(), from, from, QModelIndex(), to)) {
+        shift(&cells, from, to);
+        endMoveRows();
     }
-    const auto row = cells.begin() + from;
-    if (to > from) {
-        std::rotate(row, row + 1, cells.begin() + to);
-    } else {
-        std::rotate(cells.begin() + to, row, row + 1);
+}
+
+void GridModel::shiftColumn(int from, int to)
+{
+    const Change change(&changing);
+    if (beginMoveColumns(QModelIndex(), from, from, QModelIndex(), to)) {
+        for (Row &row : cells) {
+            shift(&row, from, to);
+        }
+        endMoveColumns();
     }
-    endMoveRows();
+}
+
+void GridModel::mirrorColumns()
+{
+    const Change change(&changing);
+    emit layoutAboutToBeChanged();
+    for (Row &row : cells) {
+        std::reverse(row.begin(), row.end());
+    }
+    const QModelIndexList followed = persistentIndexList();
+    for (const QModelIndex &cell : followed) {
+        changePersistentIndex(cell, index(cell.row(), width - 1 - cell.column()));
+    }
+    emit layoutChanged();
 }
 
 void GridModel::startAnew(int rows, int columns)

@@ -30,6 +30,13 @@ public:
     /// Moves a row before the one that is at `to`.
     void shiftRow(int from, int to);
 
+    /// Moves a column before the one that is at `to`. For use without a view: the headers of Qt 5
+    /// lose indexes of the first row then.
+    void shiftColumn(int from, int to);
+
+    /// Turns the order of the columns round, by a change of the layout.
+    void mirrorColumns();
+
     /// Starts anew with empty cells.
     void startAnew(int rows, int columns);
 
