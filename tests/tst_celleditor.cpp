@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "CellEditor.h"
 #include "TestCase.h"
+#include "ViewHelpers.h"
 
 #include <QLineEdit>
 #include <QStandardItemModel>
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void actsWhenTheCommitIsDone();
     void actsWhenTheOutermostCommitIsDone();
     void isNoLongerUnderWayWhenItActs();
+    void putsOffTheDeletionOfTheEditor();
 
 private:
     QObject delegate;
@@ -119,6 +121,25 @@ void CellEditorTest::isNoLongerUnderWayWhenItActs()
     }
 
     QVERIFY(!wasUnderWay);
+}
+
+void CellEditorTest::putsOffTheDeletionOfTheEditor()
+{
+    const QPointer<QObject> due = new QObject;
+    {
+        const Commit outer(&delegate, due);
+        {
+            const Commit inner(&delegate, due);
+            due->deleteLater();
+            goThroughEvents();
+        }
+        goThroughEvents();
+        QVERIFY(due);
+    }
+
+    goThroughEvents();
+
+    QVERIFY(!due);
 }
 
 TESSALINE_TEST_MAIN(CellEditorTest)

@@ -4,6 +4,8 @@
 #include "QtCompat.h"
 
 #include <QAbstractItemModel>
+#include <QEvent>
+#include <QPointer>
 #include <QWidget>
 
 namespace {
@@ -51,10 +53,10 @@ QPersistentModelIndex cellOf(const QObject *widget)
     return tag ? tag->cell : QPersistentModelIndex();
 }
 
-bool hasChangedColumn(const QObject *widget)
+bool isInItsColumn(const QObject *widget)
 {
     const CellTag *tag = tagOf(widget);
-    return tag && tag->cell.isValid() && tag->cell.column() != tag->column;
+    return tag && (!tag->cell.isValid() || tag->cell.column() == tag->column);
 }
 
 void cover(QWidget *editor, const QStyleOptionViewItem &option)
@@ -74,10 +76,40 @@ void store(const QString &text, QAbstractItemModel *model, const QModelIndex &in
     }
 }
 
+/// Keeps back the deletion of an editor, and has it done later.
+class Commit::DeletionDelay : public QObject
+{
+public:
+    explicit DeletionDelay(QObject *delayedEditor)
+        : editor(delayedEditor)
+    {
+        editor->installEventFilter(this);
+    }
+
+    ~DeletionDelay() override
+    {
+        if (editor && isDue) {
+            editor->deleteLater();
+        }
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        const bool isDeletion = event->type() == QEvent::DeferredDelete;
+        isDue = isDue || isDeletion;
+        return isDeletion;
+    }
+
+private:
+    const QPointer<QObject> editor;
+    bool isDue = false;
+};
+
 Commit *Commit::innermost = nullptr;
 
-Commit::Commit(const QObject *committingDelegate, const QObject *committedEditor)
-    : outer(innermost)
+Commit::Commit(const QObject *committingDelegate, QObject *committedEditor)
+    : delay(new DeletionDelay(committedEditor))
+    , outer(innermost)
     , delegate(committingDelegate)
     , editor(committedEditor)
 {

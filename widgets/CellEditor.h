@@ -6,6 +6,7 @@
 #include <QStyleOptionViewItem>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 class QAbstractItemModel;
@@ -22,9 +23,9 @@ void dress(QWidget *editor, const char *descriptionPrefix, const QModelIndex &in
 /// The cell that a widget was dressed to edit; invalid for other widgets and when the cell is gone.
 QPersistentModelIndex cellOf(const QObject *widget);
 
-/// Whether a widget was dressed to edit a cell that is now in another column. From then on the view
-/// commits it by another delegate than the one that made it and watches its keys.
-bool hasChangedColumn(const QObject *widget);
+/// Whether a widget was dressed to edit a cell that is still in the same column, or gone. If not,
+/// the view commits it by another delegate than the one that made it and watches its keys.
+bool isInItsColumn(const QObject *widget);
 
 /// Makes the editor cover its whole cell.
 void cover(QWidget *editor, const QStyleOptionViewItem &option);
@@ -38,13 +39,14 @@ void store(const QString &text, QAbstractItemModel *model, const QModelIndex &in
 
 /// Says for its lifetime that a delegate takes an editor's value into the model. A slot of the
 /// application that answers the write may replace the delegates or open a dialog; Qt goes on to use
-/// this delegate and this editor when it returns.
+/// this delegate and this editor when it returns, so it puts off a deletion of the editor that is
+/// due meanwhile: in the dialog's event loop the view may close it.
 class Commit
 {
     Q_DISABLE_COPY(Commit)
 
 public:
-    Commit(const QObject *committingDelegate, const QObject *committedEditor);
+    Commit(const QObject *committingDelegate, QObject *committedEditor);
     ~Commit();
 
     /// Whether a delegate or an editor takes part in a commit.
@@ -54,10 +56,13 @@ public:
     static void whenDone(const QObject *participant, const std::function<void()> &action);
 
 private:
+    class DeletionDelay;
+
     static Commit *outermostOf(const QObject *participant);
 
     static Commit *innermost;
 
+    const std::unique_ptr<DeletionDelay> delay;
     Commit *const outer;
     const QObject *const delegate;
     const QObject *const editor;

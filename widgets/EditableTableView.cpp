@@ -163,10 +163,12 @@ void EditableTableView::discardDelegates()
     }
 }
 
-bool EditableTableView::hasEditorInAnotherColumn() const
+bool EditableTableView::hasEditorOfAnotherDelegate() const
 {
     const QObjectList &children = viewport()->children();
-    return std::any_of(children.begin(), children.end(), CellEditor::hasChangedColumn);
+    return std::any_of(children.begin(), children.end(), [](const QObject *child) {
+        return !dynamic_cast<const CellButton *>(child) && !CellEditor::isInItsColumn(child);
+    });
 }
 
 void EditableTableView::discardDelegate(QItemDelegate *delegate)
@@ -175,9 +177,9 @@ void EditableTableView::discardDelegate(QItemDelegate *delegate)
         CellEditor::Commit::whenDone(delegate, [delegate]() {
             delegate->deleteLater();
         });
-    } else if (hasEditorInAnotherColumn()) {
-        // It may be this one that is closing its editor: where columns moved below the editor,
-        // another delegate commits it.
+    } else if (hasEditorOfAnotherDelegate()) {
+        // It may be this one that is closing its editor, which another delegate commits: columns
+        // moved below it, or it was open before they were declared.
         delegate->deleteLater();
     } else {
         delete delegate;

@@ -134,7 +134,7 @@ private:
     QList<QPointer<QWidget>> editors() const;
     void finishEditor(const QPointer<QWidget> &editor);
     bool isOpen(const QPointer<QWidget> &editor) const;
-    bool hasEditorInAnotherColumn() const;
+    bool hasEditorOfAnotherDelegate() const;
     void discardDelegates();
     void discardDelegate(QItemDelegate *delegate);
     void declareColumn(int column, const QString &declaration);

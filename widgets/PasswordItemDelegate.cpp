@@ -6,7 +6,6 @@
 
 #include <QLineEdit>
 #include <QPersistentModelIndex>
-#include <QPointer>
 
 namespace {
 
@@ -64,7 +63,7 @@ private Q_SLOTS:
 
     void look()
     {
-        if (CellEditor::hasChangedColumn(field)) {
+        if (!CellEditor::isInItsColumn(field)) {
             giveUp();
         }
     }
@@ -79,12 +78,7 @@ private:
         }
         field->setEnabled(false); // the view may show it again until it is deleted
         field->hide();
-        const QPointer<QLineEdit> abandoned(field);
-        CellEditor::Commit::whenDone(field, [abandoned]() {
-            if (abandoned) {
-                abandoned->deleteLater();
-            }
-        });
+        field->deleteLater();
     }
 
     QLineEdit *const field;
