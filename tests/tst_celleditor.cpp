@@ -23,6 +23,7 @@ private Q_SLOTS:
     void actsWhenTheOutermostCommitIsDone();
     void isNoLongerUnderWayWhenItActs();
     void putsOffTheDeletionOfTheEditor();
+    void keepsNothingElseFromTheEditor();
 
 private:
     QObject delegate;
@@ -140,6 +141,16 @@ void CellEditorTest::putsOffTheDeletionOfTheEditor()
     goThroughEvents();
 
     QVERIFY(!due);
+}
+
+void CellEditorTest::keepsNothingElseFromTheEditor()
+{
+    QLineEdit field;
+    const Commit commit(&delegate, &field);
+
+    QTest::keyClicks(&field, "typed");
+
+    QCOMPARE(field.text(), QString("typed"));
 }
 
 TESSALINE_TEST_MAIN(CellEditorTest)

@@ -422,7 +422,10 @@ void EditableTableMonkey::resizeAndLook()
         total += size;
     }
     const bool isFloored = header()->sectionSize(section) == 20 && total > header()->width();
-    expect(isFloored || total == header()->width(), "the sections do not fill the view");
+    // A header that was reset with a hidden section has scroll bars that come and go in Qt 6.
+    const bool isConsistent = header()->length() == total;
+    expect(!isConsistent || isFloored || total == header()->width(),
+           "the sections do not fill the view");
 }
 
 void EditableTableMonkey::resizeSectionAndLook()

@@ -269,7 +269,7 @@ void FileListMonkey::letFormerModelSpeak()
 
 void FileListMonkey::removeRows()
 {
-    const int files = model ? model->rowCount() - (hasPagingRow() ? 1 : 0) : 0;
+    const int files = model ? model->rowCount() - (hasButton ? 1 : 0) : 0;
     if (files > 0) {
         const int first = dice.below(files);
         model->removeRows(first, dice.between(1, files - first));
@@ -308,10 +308,11 @@ void FileListMonkey::sortModel()
     }
 }
 
+// Not while a button waits for a column: its row would go, and the next one be a file's.
 void FileListMonkey::clearModel()
 {
-    if (model) {
-        hasButton = hasButton && !isPlaced;
+    if (model && (isPlaced || !hasButton)) {
+        hasButton = false;
         model->clear();
         model->setColumnCount(pagedColumns);
     }

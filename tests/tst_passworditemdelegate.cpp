@@ -52,6 +52,7 @@ private Q_SLOTS:
     void survivesARowThatGoesWithItsFirstWrite();
     void givesAFieldUpWhoseColumnMoves_data();
     void givesAFieldUpWhoseColumnMoves();
+    void keepsAFieldWhenColumnsOfOtherCellsMove();
     void leavesAForeignEditorAlone();
 };
 
@@ -313,6 +314,18 @@ void PasswordItemDelegateTest::givesAFieldUpWhoseColumnMoves()
     changeColumns(&model, change, column, destination);
 
     QTEST(!field->isEnabled(), "isGivenUp");
+}
+
+void PasswordItemDelegateTest::keepsAFieldWhenColumnsOfOtherCellsMove()
+{
+    QStandardItemModel model(1, 3);
+    const PasswordItemDelegate delegate;
+    QWidget parent;
+    QWidget *field = delegate.createEditor(&parent, QStyleOptionViewItem(), model.index(0, 2));
+
+    QVERIFY(model.insertColumn(0, model.index(0, 0)));
+
+    QVERIFY(field->isEnabled());
 }
 
 void PasswordItemDelegateTest::leavesAForeignEditorAlone()
