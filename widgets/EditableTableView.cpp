@@ -11,6 +11,7 @@
 
 #include <QCoreApplication>
 #include <QHeaderView>
+#include <QList>
 #include <QPointer>
 
 #include <algorithm>
@@ -106,22 +107,16 @@ void EditableTableView::setHorizontalHeaderClickable(bool clickable)
 // written by whichever delegate follows: a secret as plain text.
 void EditableTableView::finishEditing()
 {
-    const QList<QPointer<QWidget>> toFinish = editors();
-    for (const QPointer<QWidget> &editor : toFinish) {
-        finishEditor(editor);
-    }
-}
-
-QList<QPointer<QWidget>> EditableTableView::editors() const
-{
-    QList<QPointer<QWidget>> found;
-    const QObjectList children = viewport()->children();
+    QList<QPointer<QWidget>> editors; // of which one may go with another
+    const QObjectList &children = viewport()->children();
     for (QObject *child : children) {
         if (CellEditor::cellOf(child).isValid()) {
-            found.append(static_cast<QWidget *>(child));
+            editors.append(static_cast<QWidget *>(child));
         }
     }
-    return found;
+    for (const QPointer<QWidget> &editor : editors) {
+        finishEditor(editor);
+    }
 }
 
 void EditableTableView::finishEditor(const QPointer<QWidget> &editor)

@@ -4,7 +4,6 @@
 
 #include "Export.h"
 
-#include <QList>
 #include <QMap>
 #include <QPointer>
 #include <QStringList>
@@ -131,7 +130,6 @@ private:
     int totalWidth() const;
 
     void finishEditing();
-    QList<QPointer<QWidget>> editors() const;
     void finishEditor(const QPointer<QWidget> &editor);
     bool isOpen(const QPointer<QWidget> &editor) const;
     bool hasEditorOfAnotherDelegate() const;
