@@ -76,20 +76,22 @@ void store(const QString &text, QAbstractItemModel *model, const QModelIndex &in
     }
 }
 
-/// Keeps back the deletion of an editor, and has it done later.
+/// Keeps back the deletion of an editor, and does it itself in the end. To ask the editor once more
+/// to be deleted would not do: newer versions of Qt take only the first request.
 class Commit::DeletionDelay : public QObject
 {
 public:
     explicit DeletionDelay(QObject *delayedEditor)
-        : editor(delayedEditor)
+        : isDue(false)
+        , editor(delayedEditor)
     {
         editor->installEventFilter(this);
     }
 
     ~DeletionDelay() override
     {
-        if (editor && isDue) {
-            editor->deleteLater();
+        if (isDue) {
+            delete editor;
         }
     }
 
@@ -100,15 +102,16 @@ public:
         return isDeletion;
     }
 
+    bool isDue;
+
 private:
     const QPointer<QObject> editor;
-    bool isDue = false;
 };
 
 Commit *Commit::innermost = nullptr;
 
 Commit::Commit(const QObject *committingDelegate, QObject *committedEditor)
-    : delay(new DeletionDelay(committedEditor))
+    : delay(isUnderWay(committedEditor) ? nullptr : new DeletionDelay(committedEditor))
     , outer(innermost)
     , delegate(committingDelegate)
     , editor(committedEditor)
@@ -121,6 +124,9 @@ Commit::~Commit()
     innermost = outer;
     for (const std::function<void()> &action : actions) {
         action();
+    }
+    if (delay && delay->isDue) {
+        delay.release()->deleteLater();
     }
 }
 

@@ -62,7 +62,7 @@ private:
 
     static Commit *innermost;
 
-    const std::unique_ptr<DeletionDelay> delay;
+    std::unique_ptr<DeletionDelay> delay; ///< Of the outermost commit of the editor.
     Commit *const outer;
     const QObject *const delegate;
     const QObject *const editor;

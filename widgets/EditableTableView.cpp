@@ -11,10 +11,10 @@
 
 #include <QCoreApplication>
 #include <QHeaderView>
-#include <QList>
 #include <QPointer>
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -107,11 +107,11 @@ void EditableTableView::setHorizontalHeaderClickable(bool clickable)
 // written by whichever delegate follows: a secret as plain text.
 void EditableTableView::finishEditing()
 {
-    QList<QPointer<QWidget>> editors; // of which one may go with another
+    std::vector<QPointer<QWidget>> editors; // of which one may go with another
     const QObjectList &children = viewport()->children();
     for (QObject *child : children) {
         if (CellEditor::cellOf(child).isValid()) {
-            editors.append(static_cast<QWidget *>(child));
+            editors.push_back(static_cast<QWidget *>(child));
         }
     }
     for (const QPointer<QWidget> &editor : editors) {
