@@ -60,6 +60,7 @@ private Q_SLOTS:
     void cutsOffAModelThatIsReplaced();
     void givesTheSecondModelAButtonThatStays();
     void followsTheLastRowWhenAModelAppendsBehindIt();
+    void leavesAnotherWidgetInTheLastRow();
     void leavesTheCurrentCellAloneWhenTheButtonIsClicked();
     void deletesItsButtonWithItself();
     void deletesAButtonThatNeverFoundACell();
@@ -69,14 +70,23 @@ private Q_SLOTS:
 
 public Q_SLOTS:
     void deliverAPage();
+    void coverTheLastRow();
 
 private:
     PagedModel *asked;
+    FileListTableView *covered;
+    QPointer<QWidget> cover;
 };
 
 void FileListTableViewTest::deliverAPage()
 {
     asked->deliver(2, false);
+}
+
+void FileListTableViewTest::coverTheLastRow()
+{
+    cover = new QWidget;
+    covered->setIndexWidget(asked->index(asked->rowCount() - 1, 0), cover);
 }
 
 void FileListTableViewTest::listsItsMethodsInOrder_data()
@@ -376,6 +386,22 @@ void FileListTableViewTest::followsTheLastRowWhenAModelAppendsBehindIt()
     QCOMPARE(list.model.requests, 2);
     list.model.announce(0, true);
     QCOMPARE(texts(list.model, 0), QString("file0,"));
+}
+
+void FileListTableViewTest::leavesAnotherWidgetInTheLastRow()
+{
+    PagedModel model;
+    FileListTableView view;
+    asked = &model;
+    covered = &view;
+    // Connected first, so the row has its widget when the view hears of it.
+    connect(&model, SIGNAL(rowsInserted(QModelIndex,int,int)), SLOT(coverTheLastRow()));
+
+    view.setModel(&model);
+    goThroughEvents();
+
+    QVERIFY(cover);
+    QCOMPARE(view.indexWidget(model.index(0, 0)), cover.data());
 }
 
 void FileListTableViewTest::leavesTheCurrentCellAloneWhenTheButtonIsClicked()

@@ -96,7 +96,8 @@ void FileListTableView::rowsInserted(const QModelIndex &rParentIndex, int start,
         return; // rows below another row are not in the list
     }
     const QModelIndex cell = model()->index(standardModel->rowCount() - 1, 0, rParentIndex);
-    if (!cell.isValid() || indexWidget(cell)) {
+    const bool isInPlace = nextButton->index == cell; // as when a page came in before its row
+    if (!cell.isValid() || isInPlace || indexWidget(cell)) {
         return;
     }
     if (nextButton->parentWidget()) {
