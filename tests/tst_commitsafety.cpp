@@ -10,7 +10,7 @@
 #include <QStringListModel>
 #include <QTimer>
 
-/// What happens when columns are declared anew while an editor is being committed.
+/// What happens when the application acts while an editor is being committed.
 class CommitSafetyTest : public TestCase
 {
     Q_OBJECT
@@ -259,6 +259,7 @@ void CommitSafetyTest::keepsADelegateThatClosesAnEditorWhichAnotherMade()
     QVERIFY(field);
     view.setColumns(QStringList() << "editbox");
     field->setFocus();
+    QVERIFY(field->hasFocus());
     view.setFocus(); // from now on the new delegate watches the field, too
     delegateInUse = view.itemDelegateForColumn(0);
     actedOn = &view;

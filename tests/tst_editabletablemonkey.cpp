@@ -422,8 +422,8 @@ void EditableTableMonkey::resizeAndLook()
         total += size;
     }
     const bool isFloored = header()->sectionSize(section) == 20 && total > header()->width();
-    // A header that was reset with a hidden section has scroll bars that come and go in Qt 6.
-    const bool isConsistent = header()->length() == total;
+    // Qt 6 may count a hidden section in the header's length, and then scroll bars come and go.
+    const bool isConsistent = header()->hiddenSectionCount() == 0 || header()->length() == total;
     expect(!isConsistent || isFloored || total == header()->width(),
            "the sections do not fill the view");
 }

@@ -53,6 +53,8 @@ private Q_SLOTS:
     void givesAFieldUpWhoseColumnMoves_data();
     void givesAFieldUpWhoseColumnMoves();
     void keepsAFieldWhenColumnsOfOtherCellsMove();
+    void watchesMovesFromOneRowToAnother_data();
+    void watchesMovesFromOneRowToAnother();
     void leavesAForeignEditorAlone();
 };
 
@@ -290,6 +292,7 @@ void PasswordItemDelegateTest::givesAFieldUpWhoseColumnMoves_data()
     QTest::newRow("inserted in its place") << 5 << "insert" << 2 << 0 << true;
     QTest::newRow("inserted behind it") << 5 << "insert" << 3 << 0 << false;
     QTest::newRow("removed before it") << 5 << "remove" << 0 << 0 << true;
+    QTest::newRow("removed itself") << 5 << "remove" << 2 << 0 << true;
     QTest::newRow("removed behind it") << 5 << "remove" << 3 << 0 << false;
     QTest::newRow("moved from before it to behind it") << 5 << "move" << 1 << 3 << true;
     QTest::newRow("moved from behind it to before it") << 5 << "move" << 4 << 2 << true;
@@ -326,6 +329,41 @@ void PasswordItemDelegateTest::keepsAFieldWhenColumnsOfOtherCellsMove()
     QVERIFY(model.insertColumn(0, model.index(0, 0)));
 
     QVERIFY(field->isEnabled());
+}
+
+void PasswordItemDelegateTest::watchesMovesFromOneRowToAnother_data()
+{
+    QTest::addColumn<int>("fromRow");
+    QTest::addColumn<int>("toRow");
+    QTest::addColumn<int>("toColumn");
+    QTest::addColumn<bool>("isGivenUp");
+
+    QTest::newRow("away from its row") << 0 << 1 << 0 << true;
+    QTest::newRow("into its row") << 1 << 0 << 0 << true;
+    QTest::newRow("into its row, behind it") << 1 << 0 << 2 << false;
+    QTest::newRow("between other rows") << 1 << 2 << 0 << false;
+}
+
+// No model of Qt's own can move columns, so its signal is played.
+void PasswordItemDelegateTest::watchesMovesFromOneRowToAnother()
+{
+    QFETCH(int, fromRow);
+    QFETCH(int, toRow);
+    QFETCH(int, toColumn);
+    QStandardItemModel model(3, 1);
+    model.insertColumns(0, 2, model.index(0, 0));
+    model.insertRow(0, model.index(0, 0));
+    const PasswordItemDelegate delegate;
+    QWidget parent;
+    QWidget *field = delegate.createEditor(&parent, QStyleOptionViewItem(),
+                                           model.index(0, 1, model.index(0, 0)));
+
+    QMetaObject::invokeMethod(field->children().last(), "move",
+                              Q_ARG(QModelIndex, model.index(fromRow, 0)), Q_ARG(int, 0),
+                              Q_ARG(int, 0), Q_ARG(QModelIndex, model.index(toRow, 0)),
+                              Q_ARG(int, toColumn));
+
+    QTEST(!field->isEnabled(), "isGivenUp");
 }
 
 void PasswordItemDelegateTest::leavesAForeignEditorAlone()

@@ -111,7 +111,8 @@ private:
 Commit *Commit::innermost = nullptr;
 
 Commit::Commit(const QObject *committingDelegate, QObject *committedEditor)
-    : delay(isUnderWay(committedEditor) ? nullptr : new DeletionDelay(committedEditor))
+    : delay(committedEditor && !isUnderWay(committedEditor) ? new DeletionDelay(committedEditor)
+                                                            : nullptr)
     , outer(innermost)
     , delegate(committingDelegate)
     , editor(committedEditor)

@@ -38,9 +38,9 @@ bool isCellOf(const QAbstractItemModel *model, const QModelIndex &index);
 void store(const QString &text, QAbstractItemModel *model, const QModelIndex &index);
 
 /// Says for its lifetime that a delegate takes an editor's value into the model. A slot of the
-/// application that answers the write may replace the delegates or open a dialog; Qt goes on to use
-/// this delegate and this editor when it returns, so it puts off a deletion of the editor that is
-/// due meanwhile: in the dialog's event loop the view may close it.
+/// application that answers the write may replace the delegates or open a dialog, in whose event
+/// loop the view may close the editor; when the slot returns Qt goes on to use both. So a commit
+/// also puts off the editor's deletion. The editor may be null.
 class Commit
 {
     Q_DISABLE_COPY(Commit)

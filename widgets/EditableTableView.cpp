@@ -162,7 +162,8 @@ bool EditableTableView::hasEditorOfAnotherDelegate() const
 {
     const QObjectList &children = viewport()->children();
     return std::any_of(children.begin(), children.end(), [](const QObject *child) {
-        return !dynamic_cast<const CellButton *>(child) && !CellEditor::isInItsColumn(child);
+        return child->isWidgetType() && !dynamic_cast<const CellButton *>(child)
+            && !CellEditor::isInItsColumn(child);
     });
 }
 
@@ -174,7 +175,8 @@ void EditableTableView::discardDelegate(QItemDelegate *delegate)
         });
     } else if (hasEditorOfAnotherDelegate()) {
         // It may be this one that is closing its editor, which another delegate commits: columns
-        // moved below it, or it was open before they were declared.
+        // moved below it, or it was open before they were declared. It looks like any widget that
+        // an application puts into a cell.
         delegate->deleteLater();
     } else {
         delete delegate;

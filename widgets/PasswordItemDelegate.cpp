@@ -71,7 +71,9 @@ private Q_SLOTS:
 private:
     void giveUp()
     {
-        // The view commits an editor that loses the focus: let it find what the cell holds.
+        // The view commits an editor that loses the focus, in the midst of the move: our delegate
+        // writes nothing of a read-only field, and another one what the cell holds.
+        field->setReadOnly(true);
         field->setText(compat::text(CellEditor::cellOf(field).data(Qt::EditRole)));
         if (field->window()->focusWidget() == field && field->parentWidget()) {
             field->parentWidget()->setFocus();
@@ -111,7 +113,7 @@ void PasswordItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *ite
                                         const QModelIndex &index) const
 {
     const QLineEdit *field = qobject_cast<QLineEdit *>(editor);
-    if (!field || !CellEditor::isCellOf(itemModel, index)) {
+    if (!field || field->isReadOnly() || !CellEditor::isCellOf(itemModel, index)) {
         return;
     }
     // The first write makes the view load the field anew, so all that is needed is taken before.

@@ -51,6 +51,7 @@ void verifyLeavesForeignEditorAlone(const QString &declaration)
 
     delegate->setEditorData(&foreign, fixture.model.index(0, 0));
     delegate->setModelData(&foreign, &fixture.model, fixture.model.index(0, 0));
+    delegate->setModelData(nullptr, &fixture.model, fixture.model.index(0, 0));
 
     QCOMPARE(foreign.text(), QString::fromLatin1("foreign"));
     QCOMPARE(fixture.model.writes, QStringList());

@@ -116,8 +116,8 @@ QString HeapCounter::growth(int cycles, void (*cycle)())
     const long bytes = liveBytes - bytesBefore;
     // What the toolkit does now and then, such as dropping a timer, is in a few rounds only.
     std::nth_element(blocks, blocks + rounds / 2, blocks + rounds);
-    // In whole pointers, the least that a cycle can leave in a block that grows: a block may happen
-    // to be a little larger than it was asked for.
+    // In whole pointers, which a list that forgets nothing grows by: a block may happen to be a
+    // little larger than it was asked for, and a cache hold a little more.
     const long pointers = bytes / cycles / static_cast<long>(sizeof(void *));
     return QString::fromLatin1("%1 blocks, %2 pointers a cycle")
         .arg(blocks[rounds / 2])

@@ -26,6 +26,7 @@ public:
                     lastProgress = progress;
                 });
         connect(&m_engine, &BackupEngine::finished, this, [this](const BackupSummary &result) {
+            noteTurn(m_sinceTurn.restart());
             summary = result;
             m_loop.quit();
         });
@@ -107,8 +108,8 @@ void tst_BackupLarge::staysResponsiveWithAHundredThousandFiles()
     qInfo("The longest wait was %d ms, in the second run %d ms.",
           static_cast<int>(first.longestWait), static_cast<int>(second.longestWait));
     // A share, and a generous one, since a busy disk may hold up some calls.
-    QVERIFY(first.unbearableWaits < first.duration / 2);
-    QVERIFY(second.unbearableWaits < second.duration / 2);
+    QVERIFY(first.unbearableWaits < first.duration / 5);
+    QVERIFY(second.unbearableWaits < second.duration / 5);
 }
 
 QTEST_GUILESS_MAIN(tst_BackupLarge)
