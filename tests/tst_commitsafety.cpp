@@ -10,6 +10,31 @@
 #include <QStringListModel>
 #include <QTimer>
 
+namespace {
+
+/// A shown table with one column of editors, one of which is open and changed.
+struct TypedCell
+{
+    explicit TypedCell(const QString &declaration)
+        : items(QStringList() << "typed")
+    {
+        view.setColumns(QStringList(declaration));
+        view.bindModel(0, &items);
+        view.setModel(&model);
+        showWindow(&view, 400, 200);
+        editor = openEditor(&view, model.index(0, 0));
+        QTest::keyClicks(editor, "typed");
+        QTest::keyClick(editor, Qt::Key_Space); // checks a box
+    }
+
+    QStringListModel items;
+    TalkativeModel model;
+    EditableTableView view;
+    QPointer<QWidget> editor;
+};
+
+} // namespace
+
 /// What happens when the application acts while an editor is being committed.
 class CommitSafetyTest : public TestCase
 {
@@ -144,23 +169,14 @@ void CommitSafetyTest::keepsAnEditorInUseThroughANestedEventLoop()
 {
     QFETCH(QString, declaration);
     tolerateWarnings("QAbstractItemView::closeEditor"); // Qt 6 sees that it was closed before
-    QStringListModel items(QStringList() << "typed");
-    TalkativeModel model;
-    EditableTableView view;
-    view.setColumns(QStringList(declaration));
-    view.bindModel(0, &items);
-    view.setModel(&model);
-    showWindow(&view, 400, 200);
-    QWidget *editor = openEditor(&view, model.index(0, 0));
-    QVERIFY(editor);
-    QTest::keyClicks(editor, "typed");
-    QTest::keyClick(editor, Qt::Key_Space); // checks a box
-    editorInUse = editor;
+    TypedCell cell(declaration);
+    QVERIFY(cell.editor);
+    editorInUse = cell.editor;
     wasAliveAfterTheLoop = false;
-    connect(&model, SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(goThroughALoop()));
+    connect(&cell.model, SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(goThroughALoop()));
 
-    QTest::keyClick(editor, Qt::Key_Return);
-    QTest::keyClick(editor, Qt::Key_Return);
+    QTest::keyClick(cell.editor, Qt::Key_Return);
+    QTest::keyClick(cell.editor, Qt::Key_Return);
     goThroughEvents();
 
     QVERIFY(wasAliveAfterTheLoop);
@@ -176,24 +192,16 @@ void CommitSafetyTest::isCommittingWhileItWrites_data()
 void CommitSafetyTest::isCommittingWhileItWrites()
 {
     QFETCH(QString, declaration);
-    QStringListModel items(QStringList() << "typed");
-    RecordingModel model(1, 1);
-    EditableTableView view;
-    view.setColumns(QStringList(declaration));
-    view.bindModel(0, &items);
-    view.setModel(&model);
-    showWindow(&view, 400, 200);
-    QWidget *editor = openEditor(&view, model.index(0, 0));
-    QVERIFY(editor);
-    QTest::keyClicks(editor, "typed");
-    QTest::keyClick(editor, Qt::Key_Space); // checks a box
-    actedOn = &view;
+    TypedCell cell(declaration);
+    QVERIFY(cell.editor);
+    actedOn = &cell.view;
     wasCommitting = false;
-    connect(&model, SIGNAL(itemChanged(QStandardItem*)), SLOT(noteACommit()));
+    connect(&cell.model, SIGNAL(itemChanged(QStandardItem*)), SLOT(noteACommit()));
 
-    view.itemDelegateForColumn(0)->setModelData(editor, &model, model.index(0, 0));
+    cell.view.itemDelegateForColumn(0)->setModelData(cell.editor, &cell.model,
+                                                     cell.model.index(0, 0));
 
-    QVERIFY(!model.writes.isEmpty());
+    QVERIFY(!cell.model.writes.isEmpty());
     QVERIFY(wasCommitting);
 }
 

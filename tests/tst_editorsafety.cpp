@@ -195,38 +195,26 @@ void EditorSafetyTest::keepsASecretOutOfTheTextWhenItsColumnIsHiddenAndMoves()
 void EditorSafetyTest::writesNothingWhenItGivesASecretUp()
 {
     tolerateWarnings("QAbstractItemView::"); // Qt 6 has given the editor up before
-    TalkativeModel model;
-    model.put(0, 2, "***");
-    EditableTableView view;
-    view.setColumns(declarations());
-    view.setModel(&model);
-    showWindow(&view, 400, 200);
-    QWidget *field = openEditor(&view, model.index(0, 2));
-    QVERIFY(field);
-    QTest::keyClicks(field, "typed");
+    TableInEdit table(2, "***");
+    QVERIFY(table.editor);
 
-    model.insertColumn(0);
+    table.model->insertColumn(0);
 
-    QCOMPARE(model.writes, QStringList());
-    QCOMPARE(model.index(0, 3).data().toString(), QString("***"));
+    QCOMPARE(table.model->writes, QStringList());
+    QCOMPARE(table.model->index(0, 3).data().toString(), QString("***"));
 }
 
 // Until it is deleted the view may show it again.
 void EditorSafetyTest::takesNoKeysIntoAFieldThatItGaveUp()
 {
     tolerateWarnings("QAbstractItemView::"); // Qt 6 has given the editor up before
-    TalkativeModel model;
-    EditableTableView view;
-    view.setColumns(declarations());
-    view.setModel(&model);
-    showWindow(&view, 400, 200);
-    const QPointer<QWidget> field = openEditor(&view, model.index(0, 2));
-    QVERIFY(field);
+    TableInEdit table(2);
+    QVERIFY(table.editor);
 
-    model.insertColumn(0);
+    table.model->insertColumn(0);
 
-    QVERIFY(!field || !field->isEnabled());
-    QVERIFY(QApplication::focusWidget() != field);
+    QVERIFY(!table.editor || !table.editor->isEnabled());
+    QVERIFY(QApplication::focusWidget() != table.editor);
 }
 
 void EditorSafetyTest::commitsAndClosesAPersistentEditor()

@@ -33,12 +33,14 @@ public:
     }
 };
 
-/// A shown table with an editor open in its first cell, into which "typed" was typed.
+/// A shown table with an editor open in a cell of its first row, which held `stored`, and into
+/// which "typed" was typed.
 struct TableInEdit
 {
-    explicit TableInEdit(int column = 0)
+    explicit TableInEdit(int column = 0, const QVariant &stored = QVariant())
         : model(new TalkativeModel)
     {
+        model->put(0, column, stored);
         view.setColumns(declarations());
         view.setModel(model);
         showWindow(&view, 400, 200);

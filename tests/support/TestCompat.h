@@ -5,6 +5,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QHeaderView>
 #include <QList>
@@ -262,25 +263,35 @@ protected:
     virtual QString find(const QByteArray &context, const QByteArray &source) const = 0;
 };
 
+#ifndef QTRY_VERIFY
+/// Handles events until the condition holds, for five seconds at most.
+template <class Condition> void waitUntil(const Condition &holds)
+{
+    QElapsedTimer waited;
+    waited.start();
+    while (!holds() && !waited.hasExpired(5000)) {
+        QCoreApplication::processEvents();
+        deliverDeferredDeletes();
+    }
+}
+#endif
+
 } // namespace compat
 
 #ifndef QTRY_VERIFY
-#define QTRY_VERIFY(condition)                                            \
-    do {                                                                  \
-        for (int attempt = 0; attempt < 100 && !(condition); ++attempt) { \
-            QTest::qWait(50);                                             \
-        }                                                                 \
-        QVERIFY(condition);                                               \
+#define QTRY_VERIFY(condition)    \
+    do {                          \
+        compat::waitUntil([&]() { \
+            return !!(condition); \
+        });                       \
+        QVERIFY(condition);       \
     } while (false)
-#endif
-
-#ifndef QTRY_COMPARE
-#define QTRY_COMPARE(actual, expected)                                                 \
-    do {                                                                               \
-        for (int attempt = 0; attempt < 100 && !((actual) == (expected)); ++attempt) { \
-            QTest::qWait(50);                                                          \
-        }                                                                              \
-        QCOMPARE(actual, expected);                                                    \
+#define QTRY_COMPARE(actual, expected)     \
+    do {                                   \
+        compat::waitUntil([&]() {          \
+            return (actual) == (expected); \
+        });                                \
+        QCOMPARE(actual, expected);        \
     } while (false)
 #endif
 
