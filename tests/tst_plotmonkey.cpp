@@ -21,7 +21,7 @@ qint64 pretendedSeconds = 0;
 
 QDateTime pretendedTime()
 {
-    return PlotClock::startTime.addSecs(pretendedSeconds);
+    return PlotClock::startTime.addMSecs(pretendedSeconds * 1000);
 }
 
 /// A payload, and what the plot is to make of it.
@@ -58,12 +58,6 @@ const QList<Payload> &oddPayloads()
         << good(highest, 9223372036854775808.0)
         << good(std::numeric_limits<qint64>::min(), -9223372036854775808.0);
     return payloads;
-}
-
-const QwtPlotCurve &curveOf(const QwtPlot &plot)
-{
-    const QwtPlotItemList curves = plot.itemList(QwtPlotItem::Rtti_PlotCurve);
-    return *static_cast<const QwtPlotCurve *>(curves.first());
 }
 
 } // namespace
@@ -212,7 +206,7 @@ void PlotMonkey::note(double sample)
 
 void PlotMonkey::lookAtCurve()
 {
-    const QwtPlotCurve &curve = curveOf(*plot);
+    const QwtPlotCurve &curve = compat::curveOf(*plot);
     expectEqual(static_cast<int>(curve.dataSize()), static_cast<int>(expected.size()), "samples");
     int i = 0;
     for (auto sample = expected.begin(); sample != expected.end(); ++sample, ++i) {

@@ -11,7 +11,9 @@
 #include <qwt_scale_widget.h>
 #include <qwt_text.h>
 
+#include <QBrush>
 #include <QDateTime>
+#include <QFont>
 
 namespace {
 
@@ -23,26 +25,10 @@ QDateTime pretendedTime()
     return PlotClock::startTime.addSecs(pretendedSeconds);
 }
 
-template <class Item> const Item *findItem(const QwtPlot &plot, int type)
-{
-    const QwtPlotItemList items = plot.itemList();
-    for (const QwtPlotItem *item : items) {
-        if (item->rtti() == type) {
-            return static_cast<const Item *>(item);
-        }
-    }
-    return nullptr;
-}
-
-const QwtPlotCurve &curveOf(const QwtPlot &plot)
-{
-    return *findItem<QwtPlotCurve>(plot, QwtPlotItem::Rtti_PlotCurve);
-}
-
 /// The last points, such as "0:5 1:7".
 QString points(const QwtPlot &plot, int most = 5)
 {
-    const QwtPlotCurve &curve = curveOf(plot);
+    const QwtPlotCurve &curve = compat::curveOf(plot);
     const int count = int(curve.dataSize());
     QStringList list;
     for (int i = qMax(0, count - most); i < count; ++i) {
@@ -208,7 +194,7 @@ void UpdatablePlotTest::drawsHorizontalGridLinesOnly()
 {
     const UpdatablePlot plot(nullptr);
 
-    const QwtPlotGrid *grid = findItem<QwtPlotGrid>(plot, QwtPlotItem::Rtti_PlotGrid);
+    const QwtPlotGrid *grid = compat::findItem<QwtPlotGrid>(plot, QwtPlotItem::Rtti_PlotGrid);
 
     QVERIFY(grid);
     QVERIFY(!grid->xEnabled());
@@ -256,7 +242,7 @@ void UpdatablePlotTest::leavesTheCurveAsQwtMakesIt()
     const UpdatablePlot plot(nullptr);
     const QwtPlotCurve plain;
 
-    const QwtPlotCurve &curve = curveOf(plot);
+    const QwtPlotCurve &curve = compat::curveOf(plot);
 
     QCOMPARE(curve.brush().style(), Qt::NoBrush);
     QCOMPARE(curve.pen(), plain.pen());
@@ -319,7 +305,7 @@ void UpdatablePlotTest::fillsTheCurveTranslucently()
 
     plot.setCurveColor("#4682b4");
 
-    const QwtPlotCurve &curve = curveOf(plot);
+    const QwtPlotCurve &curve = compat::curveOf(plot);
     const QColor translucent(0x46, 0x82, 0xb4, 150);
     QCOMPARE(curve.brush(), QBrush(translucent, Qt::SolidPattern));
     QCOMPARE(curve.pen(),
@@ -430,8 +416,8 @@ void UpdatablePlotTest::keepsHalfAnHourAndASecond()
         plot.updateData(second);
     }
 
-    QCOMPARE(int(curveOf(plot).dataSize()), 1802);
-    QCOMPARE(compat::pointAt(curveOf(plot), 0), QPointF(58, 58)); // 1859 - 1801
+    QCOMPARE(int(compat::curveOf(plot).dataSize()), 1802);
+    QCOMPARE(compat::pointAt(compat::curveOf(plot), 0), QPointF(58, 58)); // 1859 - 1801
     QCOMPARE(points(plot, 1), QString("1859:1859"));
 }
 

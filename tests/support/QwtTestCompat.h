@@ -5,7 +5,11 @@
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
+#include <qwt_plot_item.h>
 #include <qwt_scale_div.h>
+
+#include <QPen>
+#include <QPointF>
 
 /// What the tests read off a plot that Qwt 5 and 6 offer differently.
 namespace compat {
@@ -75,6 +79,23 @@ inline QPen majorPen(const QwtPlotGrid &grid)
 template <class Layout> bool alignsCanvasToScales(const Layout &layout)
 {
     return detail::alignsCanvasToScales(layout, 0);
+}
+
+/// The first item of a kind, which Qwt 5 can't be asked for.
+template <class Item> const Item *findItem(const QwtPlot &plot, int kind)
+{
+    const QwtPlotItemList items = plot.itemList();
+    for (const QwtPlotItem *item : items) {
+        if (item->rtti() == kind) {
+            return static_cast<const Item *>(item);
+        }
+    }
+    return nullptr;
+}
+
+inline const QwtPlotCurve &curveOf(const QwtPlot &plot)
+{
+    return *findItem<QwtPlotCurve>(plot, QwtPlotItem::Rtti_PlotCurve);
 }
 
 } // namespace compat
