@@ -14,13 +14,11 @@ bool FileReader::open(const QByteArray &path)
     m_path = path;
     m_bytesRead = 0;
     m_hash.reset();
-    int descriptor = -1;
-    if (const int error = PosixFile::openForReading(path, &descriptor)) {
+    const QIODevice::OpenMode mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
+    if (const int error = PosixFile::openForReading(path, &m_file, mode)) {
         return failFor(error);
     }
-    m_file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered,
-                QFileDevice::AutoCloseHandle);
-    if (const int error = PosixFile::state(descriptor, &m_state)) {
+    if (const int error = PosixFile::state(m_file.handle(), &m_state)) {
         return failFor(error);
     }
     return m_state.kind == FileState::Regular || fail(tr("It is no longer a regular file."));

@@ -21,12 +21,7 @@ ManifestReader::ManifestReader(const QByteArray &path, const QString &passphrase
 
 int ManifestReader::open()
 {
-    int descriptor = -1;
-    const int error = PosixFile::openForReading(m_path, &descriptor);
-    if (!error) {
-        m_file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
-    }
-    return error;
+    return PosixFile::openForReading(m_path, &m_file);
 }
 
 bool ManifestReader::step()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PosixFile.h"
 
+#include <QFile>
+
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
@@ -75,10 +77,13 @@ int PosixFile::state(int descriptor, FileState *result)
     return error;
 }
 
-int PosixFile::openForReading(const QByteArray &path, int *descriptor)
+int PosixFile::openForReading(const QByteArray &path, QFile *file, QIODevice::OpenMode mode)
 {
-    *descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
-    return *descriptor < 0 ? errno : 0;
+    const int descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    if (descriptor < 0) {
+        return errno;
+    }
+    return file->open(descriptor, mode, QFileDevice::AutoCloseHandle) ? 0 : EBADF;
 }
 
 int PosixFile::makeFolder(const QByteArray &path)

@@ -3,7 +3,10 @@
 #define POSIXFILE_H
 
 #include <QByteArray>
+#include <QIODevice>
 #include <QString>
+
+class QFile;
 
 /// What a directory entry is and what a backup keeps of it.
 struct FileState
@@ -31,7 +34,8 @@ int state(const QByteArray &path, FileState *result);
 int state(int descriptor, FileState *result);
 
 /// Opens without waiting, so that a pipe in the place of a file does not block.
-int openForReading(const QByteArray &path, int *descriptor);
+int openForReading(const QByteArray &path, QFile *file,
+                   QIODevice::OpenMode mode = QIODevice::ReadOnly);
 
 /// Makes a folder that only its owner can enter.
 int makeFolder(const QByteArray &path);

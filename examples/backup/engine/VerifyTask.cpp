@@ -13,13 +13,8 @@ const char signatureName[] = "manifest.sha256.hmac";
 
 QByteArray shortFileContent(const QByteArray &path)
 {
-    int descriptor = -1;
     QFile file;
-    if (PosixFile::openForReading(path, &descriptor) != 0
-        || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
-        return QByteArray();
-    }
-    return file.read(blockSize);
+    return PosixFile::openForReading(path, &file) == 0 ? file.read(blockSize) : QByteArray();
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QProcess>
+#include <QTest>
 #include <QTimer>
 
 #include <algorithm>
@@ -133,20 +134,15 @@ void writeFile(const QByteArray &path, const QByteArray &content)
 {
     QFile file;
     const int flags = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC;
-    file.open(::open(path.constData(), flags, 0644), QIODevice::WriteOnly,
-              QFileDevice::AutoCloseHandle);
+    QVERIFY(file.open(::open(path.constData(), flags, 0644), QIODevice::WriteOnly,
+                      QFileDevice::AutoCloseHandle));
     file.write(content);
 }
 
 QByteArray readFile(const QByteArray &path)
 {
     QFile file;
-    int descriptor = -1;
-    if (PosixFile::openForReading(path, &descriptor) != 0) {
-        return QByteArray();
-    }
-    file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
-    return file.readAll();
+    return PosixFile::openForReading(path, &file) == 0 ? file.readAll() : QByteArray();
 }
 
 bool exists(const QByteArray &path)

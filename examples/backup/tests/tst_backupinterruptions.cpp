@@ -33,7 +33,7 @@ Outcome runAndCall(const BackupFolders &folders, qint64 bytesDone,
 void appendTo(const QByteArray &path)
 {
     QFile file(QFile::decodeName(path));
-    file.open(QIODevice::Append);
+    QVERIFY(file.open(QIODevice::Append));
     file.write("more");
 }
 
