@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "CellButton.h"
 #include "TestCase.h"
+#include "TestCompat.h"
 #include "ViewHelpers.h"
 
 #include <QLineEdit>
@@ -100,7 +101,7 @@ void CellButtonTest::leavesTheFocusToItsParentWhenHidden()
     showWindow(&window, 200, 100);
     button->setFocus();
     if (!isActive) {
-        QApplication::setActiveWindow(&other);
+        compat::activate(&other);
     }
 
     button->hide();
@@ -131,7 +132,7 @@ void CellButtonTest::keepsTheFocusOfItsWindowWhenTheTableIsHidden()
     showWindow(&other, 200, 100);
     showWindow(&window, 200, 100);
     button->setFocus();
-    QApplication::setActiveWindow(&other);
+    compat::activate(&other);
 
     page->hide();
 

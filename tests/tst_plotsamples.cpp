@@ -52,9 +52,7 @@ private:
 
 QDateTime utc(const QString &text)
 {
-    QDateTime time = QDateTime::fromString(text, "yyyy-MM-dd hh:mm:ss.zzz");
-    time.setTimeSpec(Qt::UTC);
-    return time;
+    return QDateTime::fromString(text + "Z", Qt::ISODate);
 }
 
 } // namespace

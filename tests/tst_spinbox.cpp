@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "SpinBox.h"
 #include "TestCase.h"
+#include "TestCompat.h"
 #include "ViewHelpers.h"
 
 #include <QLineEdit>
@@ -215,7 +216,7 @@ void SpinBoxTest::staysSilentWhenTheWindowIsActivated()
     showWindow(&other, 100, 100);
     QSignalSpy spy(shown.spinBox, SIGNAL(focused()));
 
-    QApplication::setActiveWindow(&shown.window);
+    compat::activate(&shown.window);
 
     QTRY_VERIFY(shown.spinBox->hasFocus());
     QCOMPARE(spy.count(), 0);

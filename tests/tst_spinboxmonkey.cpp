@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "SpinBox.h"
 #include "TestCase.h"
+#include "TestCompat.h"
 #include "ViewHelpers.h"
 #include "WidgetMonkey.h"
 
@@ -158,7 +159,7 @@ void SpinBoxMonkey::reactToFocus()
 void SpinBoxMonkey::giveFocus()
 {
     const Qt::FocusReason reason = static_cast<Qt::FocusReason>(dice.below(8));
-    QApplication::setActiveWindow(&form);
+    compat::activate(&form);
     form.setFocus();
     box->setFocus(reason);
 }

@@ -130,11 +130,8 @@ inline qint64 secsTo(const QDateTime &from, const QDateTime &to)
 /// since Qt 5.2, make an invalid colour, as they did before.
 inline QColor namedColor(const QString &name)
 {
-    QColor color;
-    if (!name.startsWith(QLatin1Char('#')) || name.size() != 9) {
-        color.setNamedColor(name);
-    }
-    return color;
+    const bool hasAlphaChannel = name.startsWith(QLatin1Char('#')) && name.size() == 9;
+    return hasAlphaChannel ? QColor() : QColor(name);
 }
 
 /// QVariant::toString as Qt 4 has it: a double with 15 and a float with 6 significant digits, where

@@ -82,6 +82,11 @@ inline void waitUntilShown(QWidget *window)
     QTest::qWaitForWindowShown(window);
 }
 
+inline void activate(QWidget *window)
+{
+    QApplication::setActiveWindow(window);
+}
+
 inline QString accessibleDescription(QAccessibleInterface *accessible)
 {
     return accessible->text(QAccessible::Description, 0);
@@ -165,6 +170,12 @@ inline QByteArray methodName(const QMetaMethod &method)
 inline void waitUntilShown(QWidget *window)
 {
     QVERIFY(QTest::qWaitForWindowExposed(window));
+}
+
+inline void activate(QWidget *window)
+{
+    window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window));
 }
 
 inline QString accessibleDescription(QAccessibleInterface *accessible)

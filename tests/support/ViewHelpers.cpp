@@ -13,7 +13,7 @@ void showWindow(QWidget *window, int width, int height)
     window->resize(width, height);
     window->show();
     compat::waitUntilShown(window);
-    QApplication::setActiveWindow(window);
+    compat::activate(window);
     window->setFocus();
     QTRY_VERIFY(QApplication::focusWidget() != nullptr);
 }

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "WidgetMonkey.h"
 
+#include "TestCompat.h"
 #include "ViewHelpers.h"
 
 #include <QApplication>
+#include <QColor>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPalette>
 #include <QStyle>
 #include <QStyleFactory>
 
@@ -178,7 +181,7 @@ void WidgetMonkey::turnWheel()
 
 void WidgetMonkey::moveFocus()
 {
-    QApplication::setActiveWindow(window());
+    compat::activate(window());
     QWidgetList widgets(QWidgetList() << window());
     const QList<QWidget *> children = window()->findChildren<QWidget *>();
     for (QWidget *child : children) {
@@ -196,7 +199,7 @@ void WidgetMonkey::hideAndShow()
         handleEvents();
     }
     window()->show();
-    QApplication::setActiveWindow(window());
+    compat::activate(window());
 }
 
 void WidgetMonkey::disableForAWhile()

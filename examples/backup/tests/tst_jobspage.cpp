@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -35,7 +36,8 @@ public:
         JobStore(m_storePath).save({folders.job});
         m_window.reset(new MainWindow(JobStore(m_storePath)));
         m_window->show();
-        QApplication::setActiveWindow(m_window.get());
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
 
     MainWindow *window() const

@@ -36,7 +36,8 @@ public:
         store.save({first.job, second.job});
         m_window.reset(new MainWindow(store));
         m_window->show();
-        QApplication::setActiveWindow(m_window.get());
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
 
     MainWindow *operator->() const

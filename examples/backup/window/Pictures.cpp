@@ -14,10 +14,14 @@
 #include <SpinBox.h>
 
 #include <QApplication>
+#include <QColor>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QFileInfo>
+#include <QFont>
 #include <QLineEdit>
+#include <QPalette>
 #include <QPushButton>
 #include <QStyleFactory>
 #include <QTabWidget>
@@ -91,7 +95,7 @@ public:
     {
         m_window.reset(new MainWindow(m_store));
         m_window->show();
-        QApplication::setActiveWindow(m_window.get());
+        m_window->activateWindow();
         take(QStringLiteral("jobs"));
         typePassphrase();
         backUp();
