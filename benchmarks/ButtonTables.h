@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QStandardItemModel>
+#include <QStyle>
+#include <QStyleOption>
 #include <QStyledItemDelegate>
 #include <QTableWidget>
 

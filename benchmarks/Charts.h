@@ -14,6 +14,14 @@
 
 #include <algorithm>
 
+#include <QBrush>
+#include <QColor>
+#include <QFont>
+#include <QFontMetrics>
+#include <QPen>
+#include <QPointF>
+#include <QPolygonF>
+
 /// Charts of the last half hour that take a sample with add(), and the second that it is of.
 namespace Charts {
 

@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTableWidget>
+#include <QTableWidgetItem>
 #include <QTreeWidget>
 
 /// Lists of files, made in five ways. Each is filled once, then a page of rows comes to its end.

@@ -8,6 +8,7 @@
 #include <QItemDelegate>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPersistentModelIndex>
 
 namespace {
 

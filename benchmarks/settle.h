@@ -4,6 +4,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
+#include <QEventLoop>
 
 /// Goes through events until none are left. Once is not enough: the first turn runs the timer that
 /// lays a view out, and only the next one paints what that has made out of date.

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QBitArray>
 #include <QDate>
+#include <QPointF>
 #include <QStringList>
 #include <QUrl>
 #include <QVariant>

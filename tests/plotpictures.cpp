@@ -5,7 +5,9 @@
 #include "TestCase.h"
 #include "UpdatablePlot.h"
 
+#include <QColor>
 #include <QDir>
+#include <QPalette>
 
 #include <cmath>
 

@@ -4,6 +4,7 @@
 #include "ViewHelpers.h"
 
 #include <QLineEdit>
+#include <QPointer>
 #include <QStandardItemModel>
 
 using CellEditor::Commit;

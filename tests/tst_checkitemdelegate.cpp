@@ -6,8 +6,12 @@
 #include "ViewHelpers.h"
 
 #include <QCheckBox>
+#include <QColor>
+#include <QImage>
 #include <QPainter>
+#include <QPalette>
 #include <QProxyStyle>
+#include <QStyle>
 #include <QStyleOptionButton>
 
 namespace {

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QPointer>
 #include <QPushButton>
+#include <QScopedPointer>
 #include <QStringListModel>
 
 namespace {

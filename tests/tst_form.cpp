@@ -11,7 +11,9 @@ typedef Ui::BackupForm Form;
 typedef Ui::TableForm Form;
 #endif
 
+#include <QImage>
 #include <QLineEdit>
+#include <QPointer>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
 

@@ -6,6 +6,7 @@
 #include "ViewHelpers.h"
 
 #include <QLineEdit>
+#include <QStyle>
 
 namespace {
 

@@ -7,6 +7,7 @@
 
 #include <QDesignerCustomWidgetCollectionInterface>
 #include <QFile>
+#include <QImage>
 #include <QLibrary>
 #include <QPluginLoader>
 #include <QPointer>

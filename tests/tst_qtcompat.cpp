@@ -3,6 +3,7 @@
 #include "TestCase.h"
 
 #include <QDateTime>
+#include <QFont>
 #include <QStandardItemModel>
 #include <QTableView>
 

@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QPainter>
+#include <QPalette>
+#include <QStyle>
 #include <QStyleOptionButton>
 
 namespace {

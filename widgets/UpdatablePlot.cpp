@@ -11,9 +11,13 @@
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_layout.h>
+#include <qwt_scale_div.h>
 #include <qwt_scale_widget.h>
 #include <qwt_text.h>
 
+#include <QFont>
+#include <QPen>
+#include <QPointF>
 #include <QVariant>
 
 namespace {

@@ -3,6 +3,7 @@
 #include "FilesModel.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QDirIterator>
 #include <QLocale>
 

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QStyle>
 #include <QStyleOptionButton>
 
 PaintedButtonDelegate::PaintedButtonDelegate(const QString &captionText, QObject *parent)

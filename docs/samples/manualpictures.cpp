@@ -13,10 +13,12 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFont>
 #include <QFormLayout>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QStandardItemModel>
 #include <QTemporaryDir>
 

@@ -5,6 +5,8 @@
 
 #include <UpdatablePlot.h>
 
+#include <qwt_scale_div.h>
+
 #include <QFile>
 #include <QUiLoader>
 

@@ -2,6 +2,7 @@
 #include "BackupTestTools.h"
 
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QStorageInfo>
 #include <QTest>

@@ -2,6 +2,7 @@
 #include "BackupTestTools.h"
 
 #include <QFile>
+#include <QPair>
 #include <QTest>
 
 /// What a run does to the copy of an earlier run.

@@ -2,8 +2,10 @@
 #include "BackupTestTools.h"
 #include "CommandLine.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QProcess>
+#include <QScopedPointer>
 #include <QTest>
 
 #include <csignal>

@@ -7,6 +7,7 @@
 #include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QPersistentModelIndex>
 #include <QPushButton>
 #include <QtTest>
 

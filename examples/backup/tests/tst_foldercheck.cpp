@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QScopedPointer>
 #include <QTest>
 
 class tst_FolderCheck : public QObject

@@ -3,6 +3,7 @@
 
 #include <QCryptographicHash>
 #include <QFile>
+#include <QScopedPointer>
 #include <QTest>
 
 namespace {

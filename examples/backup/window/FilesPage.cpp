@@ -9,6 +9,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QSizePolicy>
 #include <QVBoxLayout>
 
 namespace {

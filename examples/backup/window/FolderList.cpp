@@ -2,6 +2,7 @@
 #include "FolderList.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QStorageInfo>
 #include <QStringListModel>
 

@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <QKeySequence>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTabWidget>

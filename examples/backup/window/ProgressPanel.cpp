@@ -10,7 +10,9 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSizePolicy>
 #include <QTreeWidget>
+#include <QTreeWidgetItem>
 
 namespace {
 
