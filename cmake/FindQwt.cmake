@@ -27,6 +27,16 @@ find_library(QWT_LIBRARY NAMES ${_qwt_names} NAMES_PER_DIR)
 find_path(QWT_INCLUDE_DIR NAMES qwt_global.h
     PATH_SUFFIXES qt${Qwt_QT_MAJOR}/qwt6 qt${Qwt_QT_MAJOR}/qwt ${_qwt_folders} qwt6)
 
+# Whatever it is called, it tells by what it links itself, unless it is a static one.
+set(QWT_LIBRARY_IS_FOR_THIS_QT TRUE)
+if(EXISTS "${QWT_LIBRARY}")
+    file(STRINGS "${QWT_LIBRARY}" _qwt_links REGEX "libQt[56]?Core[.]so")
+    string(REPLACE "Qt4" "Qt" _qwt_core "libQt${Qwt_QT_MAJOR}Core")
+    if(_qwt_links AND NOT _qwt_links MATCHES "${_qwt_core}[.]so")
+        set(QWT_LIBRARY_IS_FOR_THIS_QT FALSE)
+    endif()
+endif()
+
 if(QWT_INCLUDE_DIR AND EXISTS "${QWT_INCLUDE_DIR}/qwt_global.h")
     file(STRINGS "${QWT_INCLUDE_DIR}/qwt_global.h" _qwt_line REGEX "define[ \t]+QWT_VERSION_STR")
     string(REGEX REPLACE ".*\"([0-9.]+)\".*" "\\1" Qwt_VERSION "${_qwt_line}")
@@ -34,7 +44,7 @@ endif()
 
 include(FindPackageHandleStandardArgs)
 find_package_handle_standard_args(Qwt
-    REQUIRED_VARS QWT_LIBRARY QWT_INCLUDE_DIR
+    REQUIRED_VARS QWT_LIBRARY QWT_INCLUDE_DIR QWT_LIBRARY_IS_FOR_THIS_QT
     VERSION_VAR Qwt_VERSION)
 mark_as_advanced(QWT_LIBRARY QWT_INCLUDE_DIR)
 

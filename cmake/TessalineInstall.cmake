@@ -10,7 +10,7 @@ set(TESSALINE_DATA_DIR ${CMAKE_INSTALL_DATADIR}/${package})
 
 # Where the Designer of this Qt looks, if the library goes where this Qt is. Elsewhere a folder that
 # QT_PLUGIN_PATH can name.
-set(TESSALINE_PLUGINS_DIR "" CACHE STRING
+tessaline_setting(TESSALINE_PLUGINS_DIR ""
     "Folder under the prefix whose subfolder \"designer\" takes the plug-in; empty: by the prefix")
 set(plugins_dir "${TESSALINE_PLUGINS_DIR}")
 string(FIND "${TESSALINE_QT_PLUGINS}/" "${CMAKE_INSTALL_PREFIX}/" place)

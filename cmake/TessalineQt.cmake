@@ -1,45 +1,41 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
-# Chooses the Qt to build with. The only place that knows how the packages of Qt 4, 5 and 6 are
-# called; everything else uses the variables set here:
+# Finds the chosen Qt. The only place that knows how the packages of Qt 4, 5 and 6 are called;
+# everything else uses the variables set here:
 #   TESSALINE_QT_CORE, TESSALINE_QT_WIDGETS, TESSALINE_QT_UIPLUGIN   targets to link
 #   TESSALINE_QT_TEST, TESSALINE_QT_UITOOLS, TESSALINE_QT_DESIGNERCOMPONENTS   the same, for tests
-#   TESSALINE_QT_PACKAGE, TESSALINE_QT_MINIMUM, TESSALINE_QT_COMPONENTS   what find_package() takes
+#   TESSALINE_QT_PACKAGE, TESSALINE_QT_COMPONENTS   what find_package() takes
 #   TESSALINE_QT_PKGCONFIG, TESSALINE_QT_DEBIAN_PACKAGE   how others call what its headers come in
 #   TESSALINE_QT_PREFIX, TESSALINE_QT_PLUGINS, TESSALINE_QT_PROGRAMS   where it is installed
 #   tessaline_add_translations(variable file.ts...)      makes .qm files and lists them in the variable
 #   TESSALINE_QT_SUFFIX                  what tells the library's file name of this Qt from the others
 
-set(TESSALINE_QT 5 CACHE STRING "Major version of Qt to build with: 4, 5 or 6")
-set_property(CACHE TESSALINE_QT PROPERTY STRINGS 5 6 4)
+include(TessalineQtChoice)
 
 set(CMAKE_CXX_STANDARD 11)
 if(TESSALINE_QT EQUAL 4)
     set(TESSALINE_QT_PACKAGE Qt4)
     set(TESSALINE_QT_COMPONENTS QtGui)
     set(TESSALINE_QT_PKGCONFIG QtGui)
-    set(TESSALINE_QT_MINIMUM 4.8)
-    find_package(Qt4 4.8 REQUIRED COMPONENTS QtCore QtGui)
+    find_package(Qt4 ${TESSALINE_QT_MINIMUM} REQUIRED COMPONENTS QtCore QtGui)
     set(TESSALINE_QT_CORE Qt4::QtCore)
     set(TESSALINE_QT_WIDGETS Qt4::QtGui)
     add_library(TessalineQt4UiPlugin INTERFACE)
     target_include_directories(TessalineQt4UiPlugin INTERFACE "${QT_INCLUDE_DIR}/QtDesigner")
     set(TESSALINE_QT_UIPLUGIN TessalineQt4UiPlugin)
     if(TESSALINE_TESTS)
-        find_package(Qt4 4.8 REQUIRED COMPONENTS QtCore QtGui QtTest QtXml QtUiTools)
+        find_package(Qt4 REQUIRED COMPONENTS QtCore QtGui QtTest QtXml QtUiTools)
         set(TESSALINE_QT_TEST Qt4::QtTest)
         set(TESSALINE_QT_UITOOLS Qt4::QtUiTools Qt4::QtXml)
     endif()
     set(_tessaline_qmake "${QT_QMAKE_EXECUTABLE}")
-elseif(TESSALINE_QT EQUAL 5 OR TESSALINE_QT EQUAL 6)
+else()
     set(TESSALINE_QT_PACKAGE Qt${TESSALINE_QT})
     set(TESSALINE_QT_COMPONENTS Widgets)
     set(TESSALINE_QT_PKGCONFIG Qt${TESSALINE_QT}Widgets)
     if(TESSALINE_QT EQUAL 6)
         set(CMAKE_CXX_STANDARD 17) # asked for by Qt 6's own headers
-        set(TESSALINE_QT_MINIMUM 6.4)
         set(TESSALINE_QT_DEBIAN_PACKAGE qt6-base-dev)
     else()
-        set(TESSALINE_QT_MINIMUM 5.15)
         set(TESSALINE_QT_DEBIAN_PACKAGE qtbase5-dev)
     endif()
     find_package(${TESSALINE_QT_PACKAGE} ${TESSALINE_QT_MINIMUM} REQUIRED
@@ -57,8 +53,6 @@ elseif(TESSALINE_QT EQUAL 5 OR TESSALINE_QT EQUAL 6)
         endif()
     endif()
     get_target_property(_tessaline_qmake ${TESSALINE_QT_PACKAGE}::qmake IMPORTED_LOCATION)
-else()
-    message(FATAL_ERROR "TESSALINE_QT is \"${TESSALINE_QT}\"; it must be 4, 5 or 6.")
 endif()
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -71,6 +65,15 @@ endfunction()
 _tessaline_query_qmake(TESSALINE_QT_PREFIX QT_INSTALL_PREFIX)
 _tessaline_query_qmake(TESSALINE_QT_PLUGINS QT_INSTALL_PLUGINS)
 _tessaline_query_qmake(TESSALINE_QT_PROGRAMS QT_INSTALL_BINS)
+
+_tessaline_query_qmake(_tessaline_qt_version QT_VERSION)
+
+set(_tessaline_plot_choice "without the chart (${TESSALINE_PLOT_REASON})")
+if(TESSALINE_HAS_PLOT)
+    set(_tessaline_plot_choice "chart with Qwt ${Qwt_VERSION}")
+endif()
+message(STATUS
+    "Tessaline: Qt ${_tessaline_qt_version} (${TESSALINE_QT_REASON}), ${_tessaline_plot_choice}")
 
 # Builds for several Qt live side by side; the plain name is the primary Qt's.
 if(TESSALINE_QT EQUAL 5)
