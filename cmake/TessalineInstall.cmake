@@ -22,13 +22,16 @@ endif()
 tessaline_make_relative(plugins_dir)
 
 set(folders "${config_dir}" "${CMAKE_INSTALL_LIBDIR}/pkgconfig" "${TESSALINE_INCLUDE_DIR}"
-    "${TESSALINE_DATA_DIR}/translations" "${plugins_dir}/designer")
+    "${TESSALINE_DATA_DIR}/translations")
+if(TESSALINE_SHARED)
+    list(APPEND folders "${plugins_dir}/designer")
+endif()
 configure_file(cmake/record-folders.cmake.in record-folders.cmake @ONLY)
 install(SCRIPT "${CMAKE_CURRENT_BINARY_DIR}/record-folders.cmake")
 
 # The package for find_package(), and its targets.
 set(targets TessalineLibrary Tessaline)
-if(TESSALINE_HAS_PLOT)
+if(TARGET TessalinePlot)
     list(APPEND targets TessalinePlot)
 endif()
 install(TARGETS ${targets} EXPORT ${package}Targets
@@ -55,13 +58,18 @@ string(REGEX REPLACE "/$" "" TESSALINE_UP "${TESSALINE_UP}")
 set(pc_cflags)
 set(pc_plot)
 set(pc_libs)
+if(NOT TESSALINE_SHARED)
+    string(APPEND pc_cflags " -DTESSALINE_STATIC")
+endif()
 if(TESSALINE_HAS_PLOT)
     # Qwt has no package there that could be relied on.
     get_filename_component(qwt_dir "${QWT_LIBRARY}" DIRECTORY)
     get_filename_component(qwt_name "${QWT_LIBRARY}" NAME_WE)
     string(REGEX REPLACE "^lib" "" qwt_name "${qwt_name}")
-    set(pc_cflags " -DTESSALINE_HAS_PLOT -I\"${QWT_INCLUDE_DIR}\"")
-    set(pc_plot " -lTessalinePlot${TESSALINE_QT_SUFFIX}")
+    string(APPEND pc_cflags " -DTESSALINE_HAS_PLOT -I\"${QWT_INCLUDE_DIR}\"")
+    if(TARGET TessalinePlot)
+        set(pc_plot " -lTessalinePlot${TESSALINE_QT_SUFFIX}")
+    endif()
     set(pc_libs " -L\"${qwt_dir}\" -l${qwt_name}")
 endif()
 configure_file(cmake/Tessaline.pc.in ${package}.pc @ONLY)
@@ -76,14 +84,16 @@ install(FILES ${TESSALINE_TRANSLATIONS} DESTINATION ${TESSALINE_DATA_DIR}/transl
 
 # The plug-in is a link to the library: as a copy, a program that links the library and loads its
 # plug-in would have everything twice.
-set(plugin "lib${package}.so")
-file(RELATIVE_PATH library "${CMAKE_INSTALL_PREFIX}/${plugins_dir}/designer"
-    "${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/${plugin}.${PROJECT_VERSION_MAJOR}")
-file(MAKE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin")
-file(CREATE_LINK "${library}"
-    "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}" SYMBOLIC)
-install(FILES "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}"
-    DESTINATION ${plugins_dir}/designer COMPONENT development)
+if(TESSALINE_SHARED)
+    set(plugin "lib${package}.so")
+    file(RELATIVE_PATH library "${CMAKE_INSTALL_PREFIX}/${plugins_dir}/designer"
+        "${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/${plugin}.${PROJECT_VERSION_MAJOR}")
+    file(MAKE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin")
+    file(CREATE_LINK "${library}"
+        "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}" SYMBOLIC)
+    install(FILES "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}"
+        DESTINATION ${plugins_dir}/designer COMPONENT development)
+endif()
 
 configure_file(cmake/uninstall.cmake.in uninstall.cmake @ONLY)
 if(NOT TARGET uninstall)

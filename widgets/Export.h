@@ -4,8 +4,10 @@
 
 #include <QtGlobal>
 
-/// Marks what the shared library offers; all else stays hidden inside it.
-#if defined(TESSALINE_BUILD)
+/// Marks what the shared library offers; all else stays hidden inside it. A static one hides nothing.
+#if defined(TESSALINE_STATIC)
+#define TESSALINE_EXPORT
+#elif defined(TESSALINE_BUILD)
 #define TESSALINE_EXPORT Q_DECL_EXPORT
 #else
 #define TESSALINE_EXPORT Q_DECL_IMPORT

@@ -1,0 +1,42 @@
+# SPDX-License-Identifier: LGPL-3.0-or-later
+# The descriptors, and the library as a plug-in.
+
+tessaline_add_test(tst_designerplugins LIBRARIES TessalineTestSupport TessalineWidgets
+    TessalineDesigner ${plot_objects})
+target_include_directories(tst_designerplugins PRIVATE ${PROJECT_SOURCE_DIR}/designer)
+
+tessaline_add_test(tst_plugin LIBRARIES TessalineTestSupport TessalineLibrary
+    ${TESSALINE_QT_UIPLUGIN} ${TESSALINE_QT_UITOOLS})
+target_compile_definitions(tst_plugin PRIVATE
+    TESSALINE_PLUGIN_FILE="$<TARGET_FILE:TessalineLibrary>"
+    TESSALINE_PLUGIN_PATH="${TESSALINE_PLUGIN_PATH}"
+    TESSALINE_FORM="${form}")
+
+if(TESSALINE_HAS_PLOT)
+    target_compile_definitions(tst_designerplugins PRIVATE TESSALINE_HAS_PLOT)
+    target_compile_definitions(tst_plugin PRIVATE TESSALINE_HAS_PLOT)
+endif()
+
+if(TESSALINE_QT_DESIGNERCOMPONENTS AND TESSALINE_HAS_PLOT)
+    tessaline_add_test(tst_designer LIBRARIES TessalineTestSupport
+        ${TESSALINE_QT_DESIGNERCOMPONENTS})
+    add_dependencies(tst_designer TessalineLibrary)
+    target_compile_definitions(tst_designer PRIVATE TESSALINE_FORM="${form}")
+    set_tests_properties(tst_designer PROPERTIES
+        ENVIRONMENT "QT_PLUGIN_PATH=${TESSALINE_PLUGIN_PATH}")
+endif()
+
+if(TESSALINE_INSTALL_TESTS)
+    tessaline_find_programs(found exported_symbols nm)
+    if(found)
+        add_test(NAME exported_symbols COMMAND ${CMAKE_COMMAND}
+            -DNM=${TESSALINE_PROGRAM_nm} -DLIBRARY=$<TARGET_FILE:TessalineLibrary>
+            -P ${CMAKE_CURRENT_SOURCE_DIR}/exported-symbols.cmake)
+    endif()
+    # Qt's own tool finds fault with a plug-in whose metadata is not as it should be.
+    tessaline_find_programs(found plugin_info qtplugininfo)
+    if(found)
+        add_test(NAME plugin_info COMMAND "${TESSALINE_PROGRAM_qtplugininfo}"
+            $<TARGET_FILE:TessalineLibrary>)
+    endif()
+endif()
