@@ -49,7 +49,7 @@ else()
         find_package(${TESSALINE_QT_PACKAGE} REQUIRED COMPONENTS Test UiTools)
         set(TESSALINE_QT_TEST ${TESSALINE_QT_PACKAGE}::Test)
         set(TESSALINE_QT_UITOOLS ${TESSALINE_QT_PACKAGE}::UiTools)
-        if(TESSALINE_QT EQUAL 5) # in Qt 6 they are private
+        if(TESSALINE_QT EQUAL 5)
             find_package(Qt5 REQUIRED COMPONENTS Designer DesignerComponents Xml)
             set(TESSALINE_QT_DESIGNERCOMPONENTS Qt5::Designer Qt5::DesignerComponents Qt5::Xml)
         endif()
@@ -67,8 +67,20 @@ endfunction()
 _tessaline_query_qmake(TESSALINE_QT_PREFIX QT_INSTALL_PREFIX)
 _tessaline_query_qmake(TESSALINE_QT_PLUGINS QT_INSTALL_PLUGINS)
 _tessaline_query_qmake(TESSALINE_QT_PROGRAMS QT_INSTALL_BINS)
-
+_tessaline_query_qmake(_tessaline_qt_libraries QT_INSTALL_LIBS)
 _tessaline_query_qmake(_tessaline_qt_version QT_VERSION)
+
+# Their package is private in Qt 6, and does not work everywhere; headers and libraries are there.
+if(TESSALINE_TESTS AND TESSALINE_QT EQUAL 6)
+    find_package(Qt6 QUIET OPTIONAL_COMPONENTS Designer Xml)
+    find_library(TESSALINE_QT6_DESIGNERCOMPONENTS Qt6DesignerComponents
+        HINTS "${_tessaline_qt_libraries}" NO_DEFAULT_PATH)
+    mark_as_advanced(TESSALINE_QT6_DESIGNERCOMPONENTS)
+    if(TARGET Qt6::Designer AND TARGET Qt6::Xml AND TESSALINE_QT6_DESIGNERCOMPONENTS)
+        set(TESSALINE_QT_DESIGNERCOMPONENTS
+            Qt6::Designer "${TESSALINE_QT6_DESIGNERCOMPONENTS}" Qt6::Xml)
+    endif()
+endif()
 
 set(_tessaline_plot_choice "without the chart (${TESSALINE_PLOT_REASON})")
 if(TESSALINE_HAS_PLOT)

@@ -12,18 +12,20 @@ target_compile_definitions(tst_plugin PRIVATE
     TESSALINE_PLUGIN_PATH="${TESSALINE_PLUGIN_PATH}"
     TESSALINE_FORM="${form}")
 
-if(TESSALINE_HAS_PLOT)
-    target_compile_definitions(tst_designerplugins PRIVATE TESSALINE_HAS_PLOT)
-    target_compile_definitions(tst_plugin PRIVATE TESSALINE_HAS_PLOT)
-endif()
-
-if(TESSALINE_QT_DESIGNERCOMPONENTS AND TESSALINE_HAS_PLOT)
+set(plugin_tests tst_designerplugins tst_plugin)
+if(TESSALINE_QT_DESIGNERCOMPONENTS)
+    list(APPEND plugin_tests tst_designer)
     tessaline_add_test(tst_designer LIBRARIES TessalineTestSupport
         ${TESSALINE_QT_DESIGNERCOMPONENTS})
     add_dependencies(tst_designer TessalineLibrary)
     target_compile_definitions(tst_designer PRIVATE TESSALINE_FORM="${form}")
     set_tests_properties(tst_designer PROPERTIES
         ENVIRONMENT "QT_PLUGIN_PATH=${TESSALINE_PLUGIN_PATH}")
+endif()
+if(TESSALINE_HAS_PLOT)
+    foreach(test IN LISTS plugin_tests)
+        target_compile_definitions(${test} PRIVATE TESSALINE_HAS_PLOT)
+    endforeach()
 endif()
 
 if(TESSALINE_INSTALL_TESTS)
