@@ -30,7 +30,8 @@ if(TESSALINE_QT EQUAL 4)
     set(_tessaline_qmake "${QT_QMAKE_EXECUTABLE}")
 else()
     set(TESSALINE_QT_PACKAGE Qt${TESSALINE_QT})
-    set(TESSALINE_QT_COMPONENTS Widgets)
+    # Core by name, or CMake 3.18 does not know for which Qt to run moc if a function has found us first.
+    set(TESSALINE_QT_COMPONENTS "Core Widgets")
     set(TESSALINE_QT_PKGCONFIG Qt${TESSALINE_QT}Widgets)
     if(TESSALINE_QT EQUAL 6)
         set(CMAKE_CXX_STANDARD 17) # asked for by Qt 6's own headers
