@@ -266,6 +266,14 @@ QWidget *EditableTableView::button(int row, int column)
     return model() ? indexWidget(model()->index(row, column)) : nullptr;
 }
 
+void EditableTableView::updateEditorGeometries()
+{
+    if (!compat::layoutPrecedesEditors) {
+        executeDelayedItemsLayout();
+    }
+    QTableView::updateEditorGeometries();
+}
+
 void EditableTableView::rowsInserted(const QModelIndex &parent, int start, int end)
 {
     // Each button posts a layout of the whole view, and the base class would carry out the one that

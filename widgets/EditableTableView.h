@@ -110,6 +110,9 @@ protected:
     /// Announces resizeView() when the headers are laid out.
     void resizeEvent(QResizeEvent *event) override;
 
+    /// Places the widgets in the cells, after the rows and columns.
+    void updateEditorGeometries() override;
+
 protected Q_SLOTS:
     /// Gives the row `start` its buttons. When a model inserts several rows at once only the first
     /// of them gets buttons; models for this view insert row by row.

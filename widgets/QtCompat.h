@@ -18,6 +18,10 @@ namespace compat {
 /// Whether an item view in CollapsingState puts off a posted layout of its items. Qt 4 does not.
 const bool collapsingHoldsLayout = false;
 
+/// Whether an item view carries out a posted layout of its items before it places its editors. Qt 4
+/// does so while it goes through them, and crashes if the layout closes one.
+const bool layoutPrecedesEditors = false;
+
 inline void setSectionsClickable(QHeaderView *header, bool clickable)
 {
     header->setClickable(clickable);
@@ -49,6 +53,9 @@ inline QByteArray trSource(const QString &text)
 
 /// Whether an item view in CollapsingState puts off a posted layout of its items.
 const bool collapsingHoldsLayout = true;
+
+/// Whether an item view carries out a posted layout of its items before it places its editors.
+const bool layoutPrecedesEditors = true;
 
 inline void setSectionsClickable(QHeaderView *header, bool clickable)
 {
