@@ -135,6 +135,7 @@ FileListMonkey::FileListMonkey(quint32 seed)
 
 FileListMonkey::~FileListMonkey()
 {
+    deliverToMonkey();
     delete view;
     delete model;
     for (const QPointer<PagedModel> &former : formerModels) {
