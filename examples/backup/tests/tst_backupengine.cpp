@@ -1,12 +1,29 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "BackupTestTools.h"
 
+#include <QFile>
 #include <QTest>
 
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
+
+namespace {
+
+// The manifest writes a carriage return as sha256sum has done since coreutils 9; older ones can't
+// read that.
+bool sha256sumCanRead(const BackupFolders &folders, const QByteArray &name)
+{
+    if (!name.contains('\r')) {
+        return true;
+    }
+    QByteArray line;
+    runProgram(QStringLiteral("sha256sum"), {QFile::decodeName(name)}, folders.source(), &line);
+    return line.startsWith('\\');
+}
+
+} // namespace
 
 /// What a first run copies and keeps, and how it behaves on the event loop.
 class tst_BackupEngine : public QObject
@@ -140,7 +157,7 @@ void tst_BackupEngine::copiesAnyName()
     QCOMPARE(outcome.files.keys(), QList<QString>() << display);
     QCOMPARE(namesIn(folders.copy()), QList<QByteArray>() << name);
     QCOMPARE(readFile(folders.copy(name)), QByteArray("content"));
-    QVERIFY(manifestIsAccepted(folders));
+    QVERIFY(manifestIsAccepted(folders) || !sha256sumCanRead(folders, name));
     QVERIFY(folders.manifest().contains("data/"));
     QCOMPARE(folders.run().summary.unchangedFiles, qint64(1));
 }
