@@ -5,6 +5,7 @@
 #include "TestCase.h"
 #include "TimeScaleDraw.h"
 #include "UpdatablePlot.h"
+#include "ViewHelpers.h"
 
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_layout.h>
@@ -319,11 +320,11 @@ void UpdatablePlotTest::repaintsAShownCanvasInItsNewColor()
     plot.show();
     compat::waitUntilShown(&plot);
     const QPoint place = plot.canvas()->geometry().topLeft() + QPoint(9, 9);
-    QCOMPARE(QColor(compat::grab(&plot).toImage().pixel(place)), QColor(Qt::white));
+    QCOMPARE(colorAt(&plot, place), QColor(Qt::white));
 
     plot.setBgColor("#ff0000");
 
-    QCOMPARE(QColor(compat::grab(&plot).toImage().pixel(place)), QColor(Qt::red));
+    QCOMPARE(colorAt(&plot, place), QColor(Qt::red));
 }
 
 void UpdatablePlotTest::takesTitlesAsPlainText()
@@ -534,11 +535,11 @@ void UpdatablePlotTest::fillsTheAreaOnlyWhenTheCurveHasAColor()
     compat::waitUntilShown(&plot);
     const QRect canvas = plot.canvas()->geometry();
     const QPoint below(canvas.left() + canvas.width() * 9 / 10, canvas.bottom() - 8);
-    const QColor before(compat::grab(&plot).toImage().pixel(below));
+    const QColor before = colorAt(&plot, below);
 
     plot.setCurveColor("red");
 
-    const QColor after(compat::grab(&plot).toImage().pixel(below));
+    const QColor after = colorAt(&plot, below);
     QCOMPARE(before, QColor(Qt::white));
     QCOMPARE(after.red(), 255);
     QVERIFY(after.green() > 80 && after.green() < 130); // red at 150 of 255 over white

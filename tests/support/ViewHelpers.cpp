@@ -5,6 +5,9 @@
 #include "TestCompat.h"
 
 #include <QApplication>
+#include <QColor>
+#include <QImage>
+#include <QPointF>
 #include <QPushButton>
 #include <QTableView>
 
@@ -61,6 +64,13 @@ int buttonCount(const QAbstractItemView &view)
 {
     compat::deliverDeferredDeletes();
     return int(view.viewport()->findChildren<QPushButton *>().size());
+}
+
+QColor colorAt(QWidget *widget, const QPoint &place)
+{
+    const QImage image = compat::grab(widget).toImage();
+    const double scale = double(image.width()) / widget->width();
+    return QColor(image.pixel((QPointF(place) * scale).toPoint()));
 }
 
 QWidget *openEditor(QTableView *view, const QModelIndex &index)

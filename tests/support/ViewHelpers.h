@@ -8,6 +8,8 @@
 
 class QAbstractItemModel;
 class QAbstractItemView;
+class QColor;
+class QPoint;
 class QPushButton;
 class QTableView;
 class QWidget;
@@ -31,6 +33,10 @@ QString texts(const QAbstractItemModel &model, int column);
 
 /// All push buttons that a view holds, those about to be deleted left out.
 int buttonCount(const QAbstractItemView &view);
+
+/// The colour that a widget shows at a place in its own coordinates, however many pixels of the
+/// screen make up one of those.
+QColor colorAt(QWidget *widget, const QPoint &place);
 
 /// Opens a cell's editor with the edit key and returns it; null if none opens.
 QWidget *openEditor(QTableView *view, const QModelIndex &index);
