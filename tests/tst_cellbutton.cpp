@@ -143,7 +143,7 @@ void CellButtonTest::canBeAHiddenWindow()
 {
     CellButton button("Run", true, nullptr);
     showWindow(&button, 200, 100);
-    QCOMPARE(button.window()->focusWidget(), static_cast<QWidget *>(&button));
+    QVERIFY(button.hasFocus());
 
     button.hide();
 

@@ -273,7 +273,7 @@ void EditableTableMonkey::takeModelAway()
 void EditableTableMonkey::deleteModel()
 {
     if (view->model() == grid) {
-        delete grid;
+        compat::deleteModel(grid, view);
     }
 }
 
@@ -500,7 +500,7 @@ void EditableTableMonkey::react(int row)
     const bool isPlain = grid && view->model() == grid && !grid->isChanging(); // no proxy
     if (reaction == 1) {
         declareColumns();
-    } else if (reaction == 2 && mayRemove) {
+    } else if (reaction == 2 && mayRemove && compat::editorsOutliveNestedLoops) {
         QCoreApplication::processEvents();
     } else if (reaction == 3 && isPlain && mayRemove && row >= 0 && row < grid->rowCount()) {
         grid->removeRows(row, 1);

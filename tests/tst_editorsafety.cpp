@@ -58,7 +58,7 @@ void EditorSafetyTest::survivesAModelThatDiesDuringAnEdit()
     TableInEdit table;
     QVERIFY(table.editor);
 
-    delete table.model;
+    compat::deleteModel(table.model, &table.view);
     if (table.editor) {
         QTest::keyClick(table.editor, Qt::Key_Return);
     }

@@ -2,6 +2,7 @@
 #ifndef TESSALINE_TESTCOMPAT_H
 #define TESSALINE_TESTCOMPAT_H
 
+#include <QAbstractItemModel>
 #include <QAccessible>
 #include <QApplication>
 #include <QCoreApplication>
@@ -12,6 +13,7 @@
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QPixmap>
+#include <QTableView>
 #include <QTranslator>
 #include <QWheelEvent>
 #include <QWidget>
@@ -96,6 +98,18 @@ inline QPixmap grab(QWidget *widget)
 {
     return QPixmap::grabWidget(widget);
 }
+
+/// Deletes the model that a table shows. Its headers would go on painting the sections they had.
+inline void deleteModel(QAbstractItemModel *model, QTableView *view)
+{
+    delete model;
+    view->horizontalHeader()->reset();
+    view->verticalHeader()->reset();
+}
+
+/// Whether Qt's own delegate still has its editor after an event loop that a model runs while it is
+/// written to.
+const bool editorsOutliveNestedLoops = false;
 
 inline bool sectionsClickable(const QHeaderView *header)
 {
@@ -187,6 +201,16 @@ inline QPixmap grab(QWidget *widget)
 {
     return widget->grab();
 }
+
+/// Deletes the model that a table shows.
+inline void deleteModel(QAbstractItemModel *model, QTableView *)
+{
+    delete model;
+}
+
+/// Whether Qt's own delegate still has its editor after an event loop that a model runs while it is
+/// written to.
+const bool editorsOutliveNestedLoops = true;
 
 inline bool sectionsClickable(const QHeaderView *header)
 {

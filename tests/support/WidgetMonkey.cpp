@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "WidgetMonkey.h"
 
-#include "TestCompat.h"
 #include "ViewHelpers.h"
 
 #include <QApplication>
