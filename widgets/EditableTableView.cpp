@@ -9,8 +9,10 @@
 #include "PasswordItemDelegate.h"
 #include "QtCompat.h"
 
+#include <QAbstractItemDelegate>
 #include <QCoreApplication>
 #include <QHeaderView>
+#include <QItemDelegate>
 #include <QPointer>
 
 #include <algorithm>

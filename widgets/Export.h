@@ -4,7 +4,7 @@
 
 #include <QtGlobal>
 
-/// Marks what the shared library offers; all else stays hidden inside it. A static one hides nothing.
+/// Marks what the shared library offers; all else stays hidden in it. In a static one nothing is marked.
 #if defined(TESSALINE_STATIC)
 #define TESSALINE_EXPORT
 #elif defined(TESSALINE_BUILD)

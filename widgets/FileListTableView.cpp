@@ -5,6 +5,7 @@
 #include "QtCompat.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QStandardItemModel>

@@ -2,6 +2,7 @@
 #ifndef TESSALINE_QTCOMPAT_H
 #define TESSALINE_QTCOMPAT_H
 
+#include <QByteArray>
 #include <QColor>
 #include <QDateTime>
 #include <QFontMetrics>

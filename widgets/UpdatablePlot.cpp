@@ -12,12 +12,17 @@
 #include <qwt_plot_grid.h>
 #include <qwt_plot_layout.h>
 #include <qwt_scale_div.h>
+#include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
 #include <qwt_text.h>
 
+#include <QBrush>
+#include <QColor>
 #include <QFont>
+#include <QFontMetrics>
 #include <QPen>
 #include <QPointF>
+#include <QPolygonF>
 #include <QVariant>
 
 namespace {
