@@ -4,7 +4,7 @@
 
 #include <QtGlobal>
 
-/// Marks what the shared library offers; all else stays hidden in it. In a static one nothing is marked.
+/// Marks what the shared library offers; all else stays hidden in it. Empty in a static one.
 #if defined(TESSALINE_STATIC)
 #define TESSALINE_EXPORT
 #elif defined(TESSALINE_BUILD)
