@@ -83,7 +83,7 @@ packages_fuzz="clang libclang-rt-dev"
 packages_memcheck="valgrind"
 packages_coverage="gcovr"
 packages_benchmarks="libbenchmark-dev libqcustomplot-dev libqt5charts5-dev valgrind"
-packages_checks="clang-format clang-tidy clazy $packages_benchmarks"
+packages_checks="clang-format clang-tidy clazy python3 $packages_benchmarks"
 # For pictures of a program on a display.
 packages_pictures="xvfb xdotool imagemagick"
 # For the tests of the installed library and its packages.
