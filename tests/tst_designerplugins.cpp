@@ -276,7 +276,7 @@ void DesignerPluginsTest::createsAWidgetThatWorksWithoutAModelAndData()
     for (const QSize &size : sizes) {
         widget->resize(size);
         goThroughEvents();
-        QCOMPARE(compat::grab(widget.data()).size(), widget->size());
+        QVERIFY(!compat::grab(widget.data()).isNull());
     }
     widget->hide();
     widget->show();
