@@ -34,7 +34,9 @@ set(known
     "^qt_plugin_(instance|query_verification_data|query_metadata|query_metadata_v2)$"
     # Of the linker, and instances of templates that the standard library has made public.
     "^(__bss_start|_edata|_end|_init|_fini)$"
-    "^([a-z]+ )?std::")
+    "^([a-z]+ )?std::"
+    # Inline functions of Qt's public classes, where nothing was optimised.
+    "^Q[A-Z][A-Za-z]+::")
 
 string(REGEX REPLACE "\n$" "" output "${output}")
 string(REPLACE ";" "," output "${output}")
