@@ -92,17 +92,35 @@ void useSpinBox()
     }
 }
 
-void usePlot()
+void useHiddenPlot()
 {
     Charts::Updatable plot;
-    plot.resize(180, 140);
     for (int second = 0; second < 1000; ++second) {
         plot.add(second);
     }
-    plot.show();
+}
+
+/// A full chart on the screen. It is never destroyed, because the application goes first.
+Charts::Updatable *fullPlot(int width, int height)
+{
+    Charts::Updatable *plot = new Charts::Updatable;
+    plot->resize(width, height);
+    for (int second = 0; second < Charts::shownSamples; ++second) {
+        plot->add(second);
+    }
+    plot->show();
     settle();
-    for (int second = 1000; second < 1050; ++second) {
-        plot.add(second);
+    return plot;
+}
+
+/// Counts nothing but samples that are painted: the first turn, which is not counted, fills the
+/// chart.
+template <int width, int height> void useShownPlot()
+{
+    static Charts::Updatable *const plot = fullPlot(width, height);
+    static int second = Charts::shownSamples;
+    for (int i = 0; i < 50; ++i) {
+        plot->add(second++);
         settle();
     }
 }
@@ -114,7 +132,9 @@ Scenario scenarioNamed(const char *name)
     const std::pair<const char *, Scenario> scenarios[] = {{"editabletable", useEditableTable},
                                                            {"filelist", useFileList},
                                                            {"spinbox", useSpinBox},
-                                                           {"plot", usePlot}};
+                                                           {"hiddenplot", useHiddenPlot},
+                                                           {"plot", useShownPlot<180, 140>},
+                                                           {"largeplot", useShownPlot<800, 400>}};
     for (const std::pair<const char *, Scenario> &scenario : scenarios) {
         if (std::strcmp(scenario.first, name) == 0) {
             return scenario.second;
@@ -141,7 +161,9 @@ int main(int argc, char **argv)
     }
     const Scenario scenario = scenarioNamed(name);
     if (!scenario) {
-        std::fprintf(stderr, "usage: scenario editabletable|filelist|spinbox|plot|--versions\n");
+        std::fprintf(stderr,
+                     "usage: scenario editabletable|filelist|spinbox|hiddenplot|plot|largeplot|"
+                     "--versions\n");
         return 2;
     }
     QApplication application(argc, argv);
