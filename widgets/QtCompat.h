@@ -8,6 +8,7 @@
 #include <QFontMetrics>
 #include <QHeaderView>
 #include <QMetaType>
+#include <QPainter>
 #include <QString>
 #include <QVariant>
 
@@ -48,6 +49,12 @@ inline void resizeSection(QHeaderView *header, int section, int size)
 inline QByteArray trSource(const QString &text)
 {
     return text.toLatin1();
+}
+
+/// Whether polygons are filled by the rules of Qt 4.
+inline bool roundsAsQt4(const QPainter &)
+{
+    return true;
 }
 
 #else
@@ -97,6 +104,23 @@ inline QByteArray trSource(const QString &text)
 {
     return QString::fromLatin1(text.toLatin1()).toUtf8();
 }
+
+#if QT_VERSION < 0x060000
+
+/// Whether polygons are filled by the rules of Qt 4.
+inline bool roundsAsQt4(const QPainter &painter)
+{
+    return painter.testRenderHint(QPainter::Qt4CompatiblePainting);
+}
+
+#else
+
+inline bool roundsAsQt4(const QPainter &)
+{
+    return false;
+}
+
+#endif
 
 #endif
 

@@ -9,6 +9,7 @@
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QHeaderView>
+#include <QImage>
 #include <QList>
 #include <QMetaMethod>
 #include <QMetaProperty>
@@ -97,6 +98,11 @@ inline QString accessibleDescription(QAccessibleInterface *accessible)
 inline QPixmap grab(QWidget *widget)
 {
     return QPixmap::grabWidget(widget);
+}
+
+/// Gives a picture several pixels for one of a window's. Qt 4 has none but the screen's own.
+inline void setPixelRatio(QImage *, double)
+{
 }
 
 /// Deletes the model that a table shows. Its headers would go on painting the sections they had.
@@ -200,6 +206,12 @@ inline QString accessibleDescription(QAccessibleInterface *accessible)
 inline QPixmap grab(QWidget *widget)
 {
     return widget->grab();
+}
+
+/// Gives a picture several pixels for one of a window's.
+inline void setPixelRatio(QImage *image, double ratio)
+{
+    image->setDevicePixelRatio(ratio);
 }
 
 /// Deletes the model that a table shows.
