@@ -2,9 +2,15 @@
 #ifndef TESSALINE_QWTCOMPAT_H
 #define TESSALINE_QWTCOMPAT_H
 
+#include <qwt_text_engine.h>
+
 #include <QBrush>
 #include <QColor>
+#include <QFont>
 #include <QPolygonF>
+#include <QString>
+
+#include <utility>
 
 /// What Qwt 5 and 6 call differently. No version is asked for: the compiler takes what is there.
 namespace compat {
@@ -44,7 +50,15 @@ template <class Canvas> void forgetPainting(Canvas *canvas, long)
     canvas->invalidatePaintCache(); // Qwt 5
 }
 
+template <class Margin>
+Margin marginOf(void (QwtPlainTextEngine::*)(const QFont &, const QString &, Margin &, Margin &,
+                                             Margin &, Margin &) const);
+
 } // namespace detail
+
+/// What texts are measured in: whole pixels in Qwt 5.
+typedef decltype(std::declval<QwtPlainTextEngine>().textSize(QFont(), 0, QString())) TextSize;
+typedef decltype(detail::marginOf(&QwtPlainTextEngine::textMargins)) TextMargin;
 
 template <class Curve> void setPoints(Curve *curve, const QPolygonF &points)
 {

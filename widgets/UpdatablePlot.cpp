@@ -2,6 +2,7 @@
 #include "UpdatablePlot.h"
 
 #include "ByteSizeScaleDraw.h"
+#include "LabelEngine.h"
 #include "PlotClock.h"
 #include "PlotSamples.h"
 #include "QtCompat.h"
@@ -52,6 +53,7 @@ UpdatablePlot::UpdatablePlot(QWidget *parent)
     , sizeScaleDraw(nullptr)
     , timeScaleDraw(nullptr)
 {
+    const LabelEngine::Turn turn;
     setAutoReplot(false);
     plotLayout()->setAlignCanvasToScales(true);
     setCanvasBackground(QColor(Qt::white));
@@ -88,6 +90,7 @@ void UpdatablePlot::setCurveColor(const QString &text)
     const QBrush brush(color, Qt::SolidPattern);
     curve.setBrush(brush);
     curve.setPen(QPen(brush, 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    const LabelEngine::Turn turn;
     replot();
 }
 
@@ -129,6 +132,7 @@ void UpdatablePlot::updateData(const QVariant &val)
     setAxisScale(QwtPlot::yLeft, 0.0, static_cast<double>(maximum),
                  static_cast<double>(PlotSamples::sizeStep(maximum)));
     compat::setPoints(&curve, pointsOf(samples));
+    const LabelEngine::Turn turn;
     replot();
 }
 
