@@ -25,6 +25,15 @@ QString keys(const Samples &samples)
     return list.join(",");
 }
 
+QString texts(const QVector<QPointF> &points)
+{
+    QStringList list;
+    for (const QPointF &point : points) {
+        list.append(QString("%1:%2").arg(point.x()).arg(point.y()));
+    }
+    return list.join(",");
+}
+
 /// Local time in a zone of the test's choice, put back at the end.
 class TimeZone
 {
@@ -72,6 +81,8 @@ private Q_SLOTS:
     void acceptsIntegersOnly();
     void forgetsWhatIsTooOld_data();
     void forgetsWhatIsTooOld();
+    void followsTheSamples_data();
+    void followsTheSamples();
     void fitsTheSizeAxis_data();
     void fitsTheSizeAxis();
     void stepsInWholeUnits_data();
@@ -240,6 +251,42 @@ void PlotSamplesTest::forgetsWhatIsTooOld()
     QTEST(keys(samples), "left");
 }
 
+void PlotSamplesTest::followsTheSamples_data()
+{
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("now");
+    QTest::addColumn<QString>("left");
+
+    QTest::newRow("after all") << 0 << 30 << "5:1,10:2,20:3,30:4";
+    QTest::newRow("before all") << 0 << 1 << "1:4,5:1,10:2,20:3";
+    QTest::newRow("between") << 0 << 15 << "5:1,10:2,15:4,20:3";
+    QTest::newRow("in the place of the last") << 0 << 20 << "5:1,10:2,20:4";
+    QTest::newRow("in the place of the first") << 0 << 5 << "5:4,10:2,20:3";
+    QTest::newRow("the first are too old") << 20 << 30 << "20:3,30:4";
+    QTest::newRow("just old enough") << 5 << 30 << "5:1,10:2,20:3,30:4";
+    QTest::newRow("all others are too old") << 900 << 900 << "900:4";
+}
+
+void PlotSamplesTest::followsTheSamples()
+{
+    QFETCH(int, first);
+    QFETCH(int, now);
+    QVector<QPointF> points = QVector<QPointF>()
+        << QPointF(5, 1) << QPointF(10, 2) << QPointF(20, 3);
+    Samples samples;
+    for (const QPointF &point : points) {
+        samples.insert(static_cast<int>(point.x()), static_cast<qint64>(point.y()));
+    }
+    samples.insert(now, 4);
+    while (samples.begin().key() < first) {
+        samples.erase(samples.begin());
+    }
+
+    PlotSamples::follow(&points, samples, now);
+
+    QTEST(texts(points), "left");
+}
+
 void PlotSamplesTest::fitsTheSizeAxis_data()
 {
     QTest::addColumn<qint64>("first");
@@ -258,11 +305,10 @@ void PlotSamplesTest::fitsTheSizeAxis()
 {
     QFETCH(qint64, first);
     QFETCH(qint64, second);
-    Samples samples;
-    samples.insert(0, first);
-    samples.insert(1, second);
+    const QVector<QPointF> points = QVector<QPointF>()
+        << QPointF(0, static_cast<double>(first)) << QPointF(1, static_cast<double>(second));
 
-    QTEST(PlotSamples::maximum(samples), "maximum");
+    QTEST(PlotSamples::maximum(points), "maximum");
 }
 
 void PlotSamplesTest::stepsInWholeUnits_data()

@@ -3,19 +3,23 @@
 
 #include "QtCompat.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace {
 
 const int keptSpan = PlotSamples::span + 1;
 
-// The way into a double and back is part of the format. The largest integers become 2^63, for which
-// there is no 64-bit integer.
-qint64 throughDouble(qint64 value)
+// The largest integers become 2^63 as doubles, for which there is no 64-bit integer.
+qint64 toInteger(double value)
 {
-    const double rounded = static_cast<double>(value);
-    return rounded >= 9223372036854775808.0 ? std::numeric_limits<qint64>::max()
-                                            : static_cast<qint64>(rounded);
+    return value >= 9223372036854775808.0 ? std::numeric_limits<qint64>::max()
+                                          : static_cast<qint64>(value);
+}
+
+bool isBefore(const QPointF &point, double second)
+{
+    return point.x() < second;
 }
 
 } // namespace
@@ -39,7 +43,8 @@ int secondsSince(const QDateTime &start, const QDateTime &now)
 bool parse(const QVariant &value, qint64 *sample)
 {
     bool isInteger = false;
-    *sample = throughDouble(compat::text(value).toLongLong(&isInteger, 10));
+    // The way into a double and back is part of the format.
+    *sample = toInteger(static_cast<double>(compat::text(value).toLongLong(&isInteger, 10)));
     return isInteger;
 }
 
@@ -50,13 +55,26 @@ void prune(QMap<int, qint64> *samples, int now)
     }
 }
 
-qint64 maximum(const QMap<int, qint64> &samples)
+void follow(QVector<QPointF> *points, const QMap<int, qint64> &samples, int now)
 {
-    qint64 largest = 1024;
-    for (qint64 sample : samples) {
-        largest = qMax(largest, sample);
+    const QPointF point(now, static_cast<double>(samples.value(now)));
+    auto place = std::lower_bound(points->begin(), points->end(), point.x(), isBefore);
+    if (place != points->end() && place->x() == point.x()) {
+        *place = point;
+    } else {
+        points->insert(place, point);
     }
-    return largest;
+    const auto begin = points->begin();
+    points->erase(begin, std::lower_bound(begin, points->end(), samples.begin().key(), isBefore));
+}
+
+qint64 maximum(const QVector<QPointF> &points)
+{
+    double largest = 1024.0;
+    for (const QPointF &point : points) {
+        largest = qMax(largest, static_cast<double>(point.y()));
+    }
+    return toInteger(largest);
 }
 
 qint64 sizeStep(qint64 maximum)

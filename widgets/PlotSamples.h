@@ -3,7 +3,9 @@
 #define TESSALINE_PLOTSAMPLES_H
 
 #include <QMap>
+#include <QPointF>
 #include <QTime>
+#include <QVector>
 
 class QDateTime;
 class QVariant;
@@ -36,8 +38,12 @@ bool parse(const QVariant &value, qint64 *sample);
 /// Removes the samples that are older than 1801 seconds: one second more than can be seen.
 void prune(QMap<int, qint64> *samples, int now);
 
+/// Does to the points of a curve, which are sorted by their seconds, what was done to the samples:
+/// takes over the one of `now`, and removes those before the first sample.
+void follow(QVector<QPointF> *points, const QMap<int, qint64> &samples, int now);
+
 /// The upper end of the size axis: the largest sample, and at least 1024.
-qint64 maximum(const QMap<int, qint64> &samples);
+qint64 maximum(const QVector<QPointF> &points);
 
 /// The distance of the size axis's major ticks for this upper end: a fifth of it in whole units
 /// (KB, MB, ...); 0, which leaves it to the plot, if that is less than one unit.

@@ -36,16 +36,6 @@ QFont smallPrint()
     return QFont(QLatin1String("Ms Shell Dlg 2"), 4);
 }
 
-QPolygonF pointsOf(const QMap<int, qint64> &samples)
-{
-    QPolygonF points;
-    points.reserve(samples.size());
-    for (auto sample = samples.begin(); sample != samples.end(); ++sample) {
-        points.append(QPointF(sample.key(), static_cast<double>(sample.value())));
-    }
-    return points;
-}
-
 } // namespace
 
 UpdatablePlot::UpdatablePlot(QWidget *parent)
@@ -125,13 +115,14 @@ void UpdatablePlot::updateData(const QVariant &val)
         = PlotSamples::secondsSince(PlotClock::startTimeUtc, PlotClock::currentDateTime());
     samples.insert(now, sample);
     PlotSamples::prune(&samples, now);
+    PlotSamples::follow(&points, samples, now);
 
     // The axis ends short of the newest sample, on purpose: the curve runs out of the picture.
     setAxisScale(QwtPlot::xBottom, now - PlotSamples::span, now - 2, PlotSamples::timeStep);
-    const qint64 maximum = PlotSamples::maximum(samples);
+    const qint64 maximum = PlotSamples::maximum(points);
     setAxisScale(QwtPlot::yLeft, 0.0, static_cast<double>(maximum),
                  static_cast<double>(PlotSamples::sizeStep(maximum)));
-    compat::setPoints(&curve, pointsOf(samples));
+    compat::setPoints(&curve, points);
     const LabelEngine::Turn turn;
     replot();
 }

@@ -6,6 +6,7 @@
 #include <qwt_plot_curve.h>
 
 #include <QMap>
+#include <QPolygonF>
 
 class ByteSizeScaleDraw;
 class TimeScaleDraw;
@@ -97,6 +98,7 @@ private:
     TimeScaleDraw *timeScaleDraw; ///< Owned by the axis.
     Curve curve;
     QMap<int, qint64> samples; ///< By seconds since PlotClock::startTime.
+    QPolygonF points; ///< The samples, side by side in memory, as the curve takes them.
 };
 
 #endif
