@@ -7,10 +7,15 @@
 #include "UpdatablePlot.h"
 
 #include <qwt_painter.h>
+#include <qwt_plot_curve.h>
 #include <qwt_scale_map.h>
 
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPointF>
+#include <QPolygonF>
+#include <QRectF>
+#include <QTransform>
 
 #include <cmath>
 
