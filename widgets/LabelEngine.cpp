@@ -63,8 +63,8 @@ compat::TextSize LabelEngine::textSize(const QFont &font, int flags, const QStri
         return QwtPlainTextEngine::textSize(font, flags, text);
     }
     QHash<QString, compat::TextSize> &sizes = memoryOf(font).sizes;
-    auto size = sizes.constFind(text);
-    if (size == sizes.constEnd()) {
+    auto size = sizes.find(text);
+    if (size == sizes.end()) {
         if (sizes.size() == mostSizes) {
             sizes.clear();
         }
