@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-// A chart that a program changes, and one that is not painted on a screen, look as a bare plot
+// A chart that a program changes, or that is not painted on a screen as it is, looks as a bare plot
 // does.
 #include "TestCase.h"
 #include "TwoPlots.h"
@@ -20,6 +20,39 @@ template <class Plot> QByteArray recordedCanvas(Plot *plot)
     plot->drawCanvas(&painter);
     painter.end();
     return QByteArray(picture.data(), static_cast<int>(picture.size()));
+}
+
+/// A widget that shows a plot's canvas and nothing else.
+template <class Plot> class CanvasCopy : public QWidget
+{
+public:
+    explicit CanvasCopy(Plot *shown)
+        : plot(shown)
+    {
+        resize(plot->size());
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        plot->drawCanvas(&painter);
+    }
+
+private:
+    Plot *plot;
+};
+
+/// What a view makes of a widget in it that is turned or magnified: the widget's own painter knows
+/// nothing of that.
+template <class Plot> QImage renderedCanvas(Plot *plot, PainterChange change)
+{
+    QImage image(plot->size(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    change(&painter);
+    CanvasCopy<Plot>(plot).render(&painter, QPoint(), QRegion(), QWidget::RenderFlags());
+    return image;
 }
 
 void antialias(QwtPlot *plot)
@@ -68,6 +101,7 @@ void leaveAllPoints(QwtPlot *plot)
 void leaveWhatIsOutside(QwtPlot *plot)
 {
     curveOf(plot)->setPaintAttribute(QwtPlotCurve::ClipPolygons, false);
+    plot->setAxisScale(QwtPlot::xBottom, lastSecond - 100.5, lastSecond - 40.25);
 }
 
 void hideTheLine(QwtPlot *plot)
@@ -98,6 +132,11 @@ void startTheAxisLate(QwtPlot *plot)
 void startTheAxisBelow(QwtPlot *plot)
 {
     plot->setAxisScale(QwtPlot::yLeft, -4000000, 8000000);
+}
+
+void fillToTheSide(QwtPlot *plot)
+{
+    compat::fillSideways(curveOf(plot));
 }
 
 void showOneMinute(QwtPlot *plot)
@@ -140,20 +179,40 @@ void shiftByHalves(QPainter *painter)
     painter->translate(0.5, 10.5);
 }
 
+void roundAsQt4(QPainter *painter)
+{
+    shiftByHalves(painter);
+    compat::roundAsQt4(painter);
+}
+
 void scale(QPainter *painter)
 {
-    painter->scale(1.3, 0.7);
+    painter->scale(0.9, 0.7);
 }
 
 void mirror(QPainter *painter)
 {
-    painter->translate(200, 0);
+    painter->translate(333, 0);
     painter->scale(-1, 1);
+}
+
+void standOnItsHead(QPainter *painter)
+{
+    painter->translate(0, 217);
+    painter->scale(1, -1);
+}
+
+void magnify(QPainter *painter)
+{
+    painter->translate(-36000, -22500);
+    painter->scale(150, 150);
 }
 
 void rotate(QPainter *painter)
 {
+    painter->translate(60, 0);
     painter->rotate(10);
+    painter->scale(0.5, 0.5);
 }
 
 void showOnePart(QPainter *painter)
@@ -191,6 +250,10 @@ private Q_SLOTS:
     void paintsTheSameWhenItIsChanged();
     void paintsTheSameOnAPainterThatIsChanged_data();
     void paintsTheSameOnAPainterThatIsChanged();
+    void paintsTheSameWhateverPartIsShown_data();
+    void paintsTheSameWhateverPartIsShown();
+    void paintsTheSameInAWidgetThatIsTransformed_data();
+    void paintsTheSameInAWidgetThatIsTransformed();
     void recordsWhatABarePlotRecords();
 };
 
@@ -218,6 +281,7 @@ void ChangedPlotPictureTest::paintsTheSameWhenItIsChanged_data()
     QTest::newRow("an axis that ends among the samples") << Change(endTheAxisEarly);
     QTest::newRow("an axis that starts among the samples") << Change(startTheAxisLate);
     QTest::newRow("an axis that starts below 0") << Change(startTheAxisBelow);
+    QTest::newRow("filled to the side") << Change(fillToTheSide);
     QTest::newRow("one minute") << Change(showOneMinute);
     QTest::newRow("upside down") << Change(turnTheSizesRound);
     QTest::newRow("right to left") << Change(turnTheTimesRound);
@@ -244,6 +308,7 @@ void ChangedPlotPictureTest::paintsTheSameOnAPainterThatIsChanged_data()
     QTest::newRow("antialiased") << PainterChange(antialiasPainter);
     QTest::newRow("shifted") << PainterChange(shift);
     QTest::newRow("shifted by halves") << PainterChange(shiftByHalves);
+    QTest::newRow("by the rules of Qt 4") << PainterChange(roundAsQt4);
     QTest::newRow("scaled") << PainterChange(scale);
     QTest::newRow("mirrored") << PainterChange(mirror);
     QTest::newRow("rotated") << PainterChange(rotate);
@@ -256,12 +321,62 @@ void ChangedPlotPictureTest::paintsTheSameOnAPainterThatIsChanged_data()
 void ChangedPlotPictureTest::paintsTheSameOnAPainterThatIsChanged()
 {
     QFETCH(PainterChange, change);
-    TwoPlots plots(samplesOf(noise, 1802));
+    TwoPlots plots(withGaps());
     plots.resize(QSize(333, 217));
 
     const QImage picture = canvasPicture(&plots.chart, 1.0, change);
 
     QCOMPARE(differences(picture, canvasPicture(&plots.bare, 1.0, change)), 0);
+}
+
+void ChangedPlotPictureTest::paintsTheSameWhateverPartIsShown_data()
+{
+    QTest::addColumn<double>("width");
+
+    QTest::newRow("the thinnest line") << 0.0;
+    QTest::newRow("a thin line") << 1.0;
+    QTest::newRow("a wide line") << 16.0;
+}
+
+// A few samples are seen, and those beside them, where the line is cut; before all and after them
+// there are none.
+void ChangedPlotPictureTest::paintsTheSameWhateverPartIsShown()
+{
+    QFETCH(double, width);
+    TwoPlots plots(withGaps());
+    plots.resize(QSize(333, 217));
+
+    for (int i = 0; i < 60; ++i) {
+        const double begin = lastSecond - 1950 + 33.7 * i;
+        for (QwtPlot *plot : plots.both()) {
+            curveOf(plot)->setPen(QPen(translucent("red"), width));
+            plot->setAxisScale(QwtPlot::xBottom, begin, begin + 60.0);
+            plot->replot();
+        }
+        QCOMPARE(differences(canvasPicture(&plots.chart, 1.0), canvasPicture(&plots.bare, 1.0)), 0);
+    }
+}
+
+void ChangedPlotPictureTest::paintsTheSameInAWidgetThatIsTransformed_data()
+{
+    QTest::addColumn<PainterChange>("change");
+
+    QTest::newRow("scaled") << PainterChange(scale);
+    QTest::newRow("magnified") << PainterChange(magnify);
+    QTest::newRow("mirrored") << PainterChange(mirror);
+    QTest::newRow("upside down") << PainterChange(standOnItsHead);
+    QTest::newRow("rotated") << PainterChange(rotate);
+}
+
+void ChangedPlotPictureTest::paintsTheSameInAWidgetThatIsTransformed()
+{
+    QFETCH(PainterChange, change);
+    TwoPlots plots(withGaps());
+    plots.resize(QSize(333, 217));
+
+    const QImage picture = renderedCanvas(&plots.chart, change);
+
+    QCOMPARE(differences(picture, renderedCanvas(&plots.bare, change)), 0);
 }
 
 void ChangedPlotPictureTest::recordsWhatABarePlotRecords()

@@ -10,6 +10,7 @@
 #include <qwt_plot_curve.h>
 #include <qwt_scale_map.h>
 
+#include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPointF>
@@ -21,8 +22,14 @@
 
 namespace {
 
-// What lies beyond, QPainter clips before it fills.
-const QRectF rasterizable(-32767, -32767, 65534, 65534);
+/// Whether all of a rectangle is seen on the painter's device. Edges that go beyond, QPainter cuts
+/// before it fills.
+bool isOnDevice(const QPainter &painter, const QRectF &rect)
+{
+    const QPaintDevice *device = painter.paintEngine()->paintDevice();
+    return QRectF(0.0, 0.0, device->width(), device->height())
+        .contains(painter.deviceTransform().mapRect(rect));
+}
 
 bool clipsInside(const QPainter &painter, const QRectF &rect)
 {
@@ -42,8 +49,7 @@ bool fillsPixels(QPainter *painter, const QRectF &canvasRect)
     return painter->isActive() && painter->paintEngine()->type() == QPaintEngine::Raster
         && QwtPainter::roundingAlignment(painter)
         && !painter->testRenderHint(QPainter::Antialiasing) && !compat::roundsAsQt4(*painter)
-        && keepsDirections(painter->deviceTransform())
-        && rasterizable.contains(painter->deviceTransform().mapRect(canvasRect))
+        && keepsDirections(painter->deviceTransform()) && isOnDevice(*painter, canvasRect)
         && !clipsInside(*painter, canvasRect);
 }
 

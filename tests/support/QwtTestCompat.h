@@ -59,6 +59,17 @@ template <class Layout> bool alignsCanvasToScales(const Layout &layout, long)
     return layout.alignCanvasToScales(); // Qwt 5
 }
 
+template <class Curve>
+auto fillSideways(Curve *curve, int) -> decltype(curve->setOrientation(Qt::Horizontal))
+{
+    curve->setOrientation(Qt::Horizontal); // Qwt 6
+}
+
+template <class Curve> void fillSideways(Curve *curve, long)
+{
+    curve->setCurveType(Curve::Xfy); // Qwt 5
+}
+
 } // namespace detail
 
 inline const QwtScaleDiv &scaleDiv(const QwtPlot &plot, int axis)
@@ -79,6 +90,12 @@ inline QPen majorPen(const QwtPlotGrid &grid)
 template <class Layout> bool alignsCanvasToScales(const Layout &layout)
 {
     return detail::alignsCanvasToScales(layout, 0);
+}
+
+/// Has the area between the curve and the size axis filled.
+inline void fillSideways(QwtPlotCurve *curve)
+{
+    detail::fillSideways(curve, 0);
 }
 
 /// The first item of a kind, which Qwt 5 can't be asked for.

@@ -13,6 +13,7 @@
 #include <QList>
 #include <QMetaMethod>
 #include <QMetaProperty>
+#include <QPainter>
 #include <QPixmap>
 #include <QTableView>
 #include <QTranslator>
@@ -267,6 +268,22 @@ inline QList<bool> flags(const QMetaProperty &property, const QObject *)
 {
     return QList<bool>() << property.isDesignable() << property.isScriptable()
                          << property.isStored();
+}
+
+#endif
+
+#if QT_VERSION >= 0x050000 && QT_VERSION < 0x060000
+
+/// Has polygons filled by the rules of Qt 4. Qt 4 has no others, and Qt 6 has them no longer.
+inline void roundAsQt4(QPainter *painter)
+{
+    painter->setRenderHint(QPainter::Qt4CompatiblePainting);
+}
+
+#else
+
+inline void roundAsQt4(QPainter *)
+{
 }
 
 #endif
