@@ -5,6 +5,8 @@
 #include <qwt_text.h>
 #include <qwt_text_engine.h>
 
+#include <QImage>
+
 namespace {
 
 QFont fontOf(const QString &description)
@@ -30,6 +32,18 @@ QwtText labelledInTurn(const QString &text)
     return labelled(text);
 }
 
+const QwtText::TextFormat applicationsFormat = QwtText::TextFormat(127);
+
+/// An engine that an application has registered before the first chart is made.
+class ApplicationsEngine : public QwtPlainTextEngine
+{
+public:
+    bool mightRender(const QString &) const override
+    {
+        return false;
+    }
+};
+
 bool isQwtsOwn(const QwtText &text)
 {
     return text == QwtText(text.text(), QwtText::PlainText);
@@ -42,10 +56,12 @@ class LabelEngineTest : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void measuresAsQwtDoes_data();
     void measuresAsQwtDoes();
     void measuresFontsInTurn();
     void tellsFontsOfOneHeightApart();
+    void tellsScreensApart();
     void measuresMoreThanItRemembers();
     void measuresTextsWithFlagsByTheirFlags();
     void leavesTextsToQwtBeforeAndAfterATurn();
@@ -53,7 +69,17 @@ private Q_SLOTS:
     void staysForTheOuterTurn();
     void leavesMarkupToQwt();
     void comesAfterTheEnginesOfTheApplication();
+    void leavesTheEnginesOfTheApplicationInPlace();
+
+private:
+    QwtTextEngine *applicationsEngine; ///< QwtText deletes it.
 };
+
+void LabelEngineTest::initTestCase()
+{
+    applicationsEngine = new ApplicationsEngine;
+    QwtText::setTextEngine(applicationsFormat, applicationsEngine);
+}
 
 void LabelEngineTest::measuresAsQwtDoes_data()
 {
@@ -107,6 +133,23 @@ void LabelEngineTest::tellsFontsOfOneHeightApart()
     const QSizeF size = labelledInTurn(text).textSize(bold);
 
     QCOMPARE(size, QSizeF(labelled(text).textSize(bold)));
+}
+
+// Fonts are equal if they are so many points high, however many pixels that makes.
+void LabelEngineTest::tellsScreensApart()
+{
+    const QString text("12:05");
+    const QFont font("DejaVu Sans", 23);
+    QImage finerScreen(10, 10, QImage::Format_RGB32);
+    finerScreen.setDotsPerMeterY(4 * finerScreen.dotsPerMeterY());
+    const QFont finer(font, &finerScreen);
+    LabelEngine engine;
+    engine.textSize(font, 0, text);
+
+    const QSizeF size = engine.textSize(finer, 0, text);
+
+    QVERIFY(finer == font);
+    QCOMPARE(size, QSizeF(QwtPlainTextEngine().textSize(finer, 0, text)));
 }
 
 void LabelEngineTest::measuresMoreThanItRemembers()
@@ -180,6 +223,13 @@ void LabelEngineTest::comesAfterTheEnginesOfTheApplication()
     QVERIFY(after == QwtText("12:05", QwtText::OtherFormat));
     QVERIFY(!before.textSize(QFont("DejaVu Sans", 9)).isEmpty()); // its engine is still there
     QwtText::setTextEngine(QwtText::OtherFormat, nullptr);
+}
+
+void LabelEngineTest::leavesTheEnginesOfTheApplicationInPlace()
+{
+    const LabelEngine::Turn turn;
+
+    QVERIFY(QwtText::textEngine(applicationsFormat) == applicationsEngine);
 }
 
 TESSALINE_TEST_MAIN(LabelEngineTest)

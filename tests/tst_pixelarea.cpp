@@ -107,6 +107,7 @@ void PixelAreaTest::fillsWhatQPainterFills_data()
     QTest::newRow("halves of pixels") << 3 << 2;
     QTest::newRow("long slopes between halves") << 350 << 2;
     QTest::newRow("64ths of pixels") << 5 << 64;
+    QTest::newRow("finer than 64ths") << 5 << 256;
 }
 
 void PixelAreaTest::fillsWhatQPainterFills()

@@ -102,6 +102,7 @@ private Q_SLOTS:
     void dropsAllWhenTheClockJumpsAhead();
     void takesNegativeValues();
     void takesTheEndsOf64Bits();
+    void leavesTheTextsOfOthersToQwt();
     void diesBeforeAndAfterItsFirstSample();
     void fillsTheAreaOnlyWhenTheCurveHasAColor();
 };
@@ -509,6 +510,15 @@ void UpdatablePlotTest::takesTheEndsOf64Bits()
 
     QCOMPARE(points(plot), QString("1:9223372036854775808 2:-9223372036854775808"));
     QCOMPARE(ends(plot, QwtPlot::yLeft), QString("0..9223372036854775808"));
+}
+
+void UpdatablePlotTest::leavesTheTextsOfOthersToQwt()
+{
+    UpdatablePlot plot;
+
+    plot.updateData(5000);
+
+    QVERIFY(QwtText("12:05") == QwtText("12:05", QwtText::PlainText));
 }
 
 void UpdatablePlotTest::diesBeforeAndAfterItsFirstSample()
