@@ -93,6 +93,11 @@ void fillWithoutColor(QwtPlot *plot)
     curveOf(plot)->setBrush(QBrush(QColor(), Qt::SolidPattern));
 }
 
+void leaveExtremesOnly(QwtPlot *plot)
+{
+    compat::keepExtremesOnly(curveOf(plot));
+}
+
 void leaveAllPoints(QwtPlot *plot)
 {
     curveOf(plot)->setPaintAttribute(QwtPlotCurve::FilterPoints, false);
@@ -273,6 +278,7 @@ void ChangedPlotPictureTest::paintsTheSameWhenItIsChanged_data()
     QTest::newRow("shaded") << Change(shade);
     QTest::newRow("opaque") << Change(fillOpaquely);
     QTest::newRow("without a colour") << Change(fillWithoutColor);
+    QTest::newRow("filtered more") << Change(leaveExtremesOnly);
     QTest::newRow("unfiltered") << Change(leaveAllPoints);
     QTest::newRow("unclipped") << Change(leaveWhatIsOutside);
     QTest::newRow("without a line") << Change(hideTheLine);

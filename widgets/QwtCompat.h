@@ -50,6 +50,18 @@ template <class Canvas> void forgetPainting(Canvas *canvas, long)
     canvas->invalidatePaintCache(); // Qwt 5
 }
 
+template <class Curve>
+auto keepsExtremesOnly(const Curve &curve, int)
+    -> decltype(curve.testPaintAttribute(Curve::FilterPointsAggressive))
+{
+    return curve.testPaintAttribute(Curve::FilterPointsAggressive); // Qwt 6.2
+}
+
+template <class Curve> bool keepsExtremesOnly(const Curve &, long)
+{
+    return false;
+}
+
 template <class Margin>
 Margin marginOf(void (QwtPlainTextEngine::*)(const QFont &, const QString &, Margin &, Margin &,
                                              Margin &, Margin &) const);
@@ -63,6 +75,12 @@ typedef decltype(detail::marginOf(&QwtPlainTextEngine::textMargins)) TextMargin;
 template <class Curve> void setPoints(Curve *curve, const QPolygonF &points)
 {
     detail::setPoints(curve, points, 0);
+}
+
+/// Whether a curve is drawn through some of its points only.
+template <class Curve> bool keepsExtremesOnly(const Curve &curve)
+{
+    return detail::keepsExtremesOnly(curve, 0);
 }
 
 /// Makes a canvas paint itself anew. It keeps what it has painted, and a new background alone does

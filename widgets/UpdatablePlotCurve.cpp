@@ -4,6 +4,7 @@
 // filled as rectangles; everything else is left to Qwt.
 #include "PixelArea.h"
 #include "QtCompat.h"
+#include "QwtCompat.h"
 #include "UpdatablePlot.h"
 
 #include <qwt_painter.h>
@@ -59,7 +60,8 @@ bool isOurs(const QwtPlotCurve &curve)
     return curve.brush().style() == Qt::SolidPattern && curve.brush().color().isValid()
         && curve.orientation() == Qt::Vertical && !curve.testCurveAttribute(QwtPlotCurve::Fitted)
         && curve.testPaintAttribute(QwtPlotCurve::ClipPolygons)
-        && curve.testPaintAttribute(QwtPlotCurve::FilterPoints);
+        && curve.testPaintAttribute(QwtPlotCurve::FilterPoints)
+        && !compat::keepsExtremesOnly(curve);
 }
 
 // As Qwt rounds: halves go away from 0.

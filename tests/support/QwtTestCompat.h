@@ -70,6 +70,17 @@ template <class Curve> void fillSideways(Curve *curve, long)
     curve->setCurveType(Curve::Xfy); // Qwt 5
 }
 
+template <class Curve>
+auto keepExtremesOnly(Curve *curve, int)
+    -> decltype(curve->setPaintAttribute(Curve::FilterPointsAggressive))
+{
+    curve->setPaintAttribute(Curve::FilterPointsAggressive); // Qwt 6.2
+}
+
+template <class Curve> void keepExtremesOnly(Curve *, long)
+{
+}
+
 } // namespace detail
 
 inline const QwtScaleDiv &scaleDiv(const QwtPlot &plot, int axis)
@@ -96,6 +107,12 @@ template <class Layout> bool alignsCanvasToScales(const Layout &layout)
 inline void fillSideways(QwtPlotCurve *curve)
 {
     detail::fillSideways(curve, 0);
+}
+
+/// Has a curve drawn through some of its points only, where Qwt can do so.
+inline void keepExtremesOnly(QwtPlotCurve *curve)
+{
+    detail::keepExtremesOnly(curve, 0);
 }
 
 /// The first item of a kind, which Qwt 5 can't be asked for.
