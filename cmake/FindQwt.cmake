@@ -37,6 +37,7 @@ if(EXISTS "${QWT_LIBRARY}")
     endif()
 endif()
 
+unset(Qwt_VERSION)
 if(QWT_INCLUDE_DIR AND EXISTS "${QWT_INCLUDE_DIR}/qwt_global.h")
     file(STRINGS "${QWT_INCLUDE_DIR}/qwt_global.h" _qwt_line REGEX "define[ \t]+QWT_VERSION_STR")
     string(REGEX REPLACE ".*\"([0-9.]+)\".*" "\\1" Qwt_VERSION "${_qwt_line}")
@@ -44,7 +45,7 @@ endif()
 
 include(FindPackageHandleStandardArgs)
 find_package_handle_standard_args(Qwt
-    REQUIRED_VARS QWT_LIBRARY QWT_INCLUDE_DIR QWT_LIBRARY_IS_FOR_THIS_QT
+    REQUIRED_VARS QWT_LIBRARY QWT_INCLUDE_DIR Qwt_VERSION QWT_LIBRARY_IS_FOR_THIS_QT
     VERSION_VAR Qwt_VERSION)
 mark_as_advanced(QWT_LIBRARY QWT_INCLUDE_DIR)
 
