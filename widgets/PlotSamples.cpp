@@ -3,6 +3,8 @@
 
 #include "QtCompat.h"
 
+#include <QDateTime>
+
 #include <algorithm>
 #include <limits>
 
@@ -28,9 +30,10 @@ namespace PlotSamples {
 
 InitialAxis::InitialAxis(const QDateTime &start)
 {
-    const qint64 boundary = compat::toSecs(start) / timeStep * timeStep;
-    lower = static_cast<int>(compat::secsTo(start, compat::fromSecs(boundary)));
-    upper = static_cast<int>(compat::secsTo(start, compat::fromSecs(boundary + span)));
+    const qint64 milliseconds = start.toMSecsSinceEpoch();
+    const qint64 boundary = milliseconds / 1000 / timeStep * timeStep;
+    lower = static_cast<int>((boundary * 1000 - milliseconds) / 1000);
+    upper = static_cast<int>(((boundary + span) * 1000 - milliseconds) / 1000);
     base = compat::fromSecs(boundary).time();
 }
 

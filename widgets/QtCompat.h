@@ -140,12 +140,7 @@ inline int charWidth(const QFontMetrics &metrics, QChar character)
 
 #endif
 
-/// QDateTime::toTime_t and its like, which are gone in Qt 6: whole seconds since 1970, in UTC.
-inline qint64 toSecs(const QDateTime &time)
-{
-    return time.toMSecsSinceEpoch() / 1000;
-}
-
+/// QDateTime::fromTime_t, which is gone in Qt 6: local time, of seconds since 1970 in UTC.
 inline QDateTime fromSecs(qint64 seconds)
 {
     return QDateTime::fromMSecsSinceEpoch(seconds * 1000);

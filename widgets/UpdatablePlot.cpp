@@ -129,7 +129,7 @@ void UpdatablePlot::updateData(const QVariant &val)
 
 void UpdatablePlot::setUpTimeAxis()
 {
-    const PlotSamples::InitialAxis axis(PlotClock::startTime);
+    const PlotSamples::InitialAxis axis(PlotClock::startTimeUtc);
     timeScaleDraw = new TimeScaleDraw(axis.base);
     installScaleDraw(QwtPlot::xBottom, timeScaleDraw);
     setAxisScale(QwtPlot::xBottom, axis.lower, axis.upper, PlotSamples::timeStep);
