@@ -2,6 +2,7 @@
 #ifndef TESSALINE_QWTTESTCOMPAT_H
 #define TESSALINE_QWTTESTCOMPAT_H
 
+#include <qwt_global.h>
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
@@ -13,6 +14,9 @@
 
 /// What the tests read off a plot that Qwt 5 and 6 offer differently.
 namespace compat {
+
+/// Whether axes have ticks before the first replot.
+const bool axesStartWithTicks = QWT_VERSION >= 0x060000;
 
 namespace detail {
 

@@ -101,6 +101,12 @@ inline QPixmap grab(QWidget *widget)
     return QPixmap::grabWidget(widget);
 }
 
+/// How many pixels of the screen make up one of a widget's.
+inline double pixelRatio(const QWidget &)
+{
+    return 1.0;
+}
+
 /// Gives a picture several pixels for one of a window's. Qt 4 has none but the screen's own.
 inline void setPixelRatio(QImage *, double)
 {
@@ -207,6 +213,12 @@ inline QString accessibleDescription(QAccessibleInterface *accessible)
 inline QPixmap grab(QWidget *widget)
 {
     return widget->grab();
+}
+
+/// How many pixels of the screen make up one of a widget's.
+inline double pixelRatio(const QWidget &widget)
+{
+    return widget.devicePixelRatioF();
 }
 
 /// Gives a picture several pixels for one of a window's.
