@@ -1,62 +1,11 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "FileListTableView.h"
-#include "PageThread.h"
 #include "PagedModel.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
-#include <QHeaderView>
 #include <QPointer>
-#include <QPushButton>
-#include <QScopedPointer>
 #include <QStringListModel>
-
-namespace {
-
-QString labelOfButton(const FileListTableView &view)
-{
-    const QList<QPushButton *> buttons = view.viewport()->findChildren<QPushButton *>();
-    return buttons.isEmpty() ? QString("none") : buttons.last()->text();
-}
-
-} // namespace
-
-/// A list that a call can delete.
-class SelfDeletingList : public FileListTableView
-{
-    Q_OBJECT
-
-public Q_SLOTS:
-    void vanish()
-    {
-        delete this;
-    }
-};
-
-/// A model of another kind that has all that paging takes.
-class OfferingList : public QStringListModel
-{
-    Q_OBJECT
-
-public:
-    void speakUp()
-    {
-        emit pageLoaded(1, false);
-        emit dataChanged();
-    }
-
-    int requests = 0;
-
-public Q_SLOTS:
-    void LoadItems()
-    {
-        ++requests;
-    }
-
-Q_SIGNALS:
-    void pageLoaded(qint64 count, bool completed);
-    void dataChanged();
-};
 
 /// Models that break the contract, and calls at the wrong time: nothing crashes.
 class FileListSafetyTest : public TestCase
@@ -67,7 +16,6 @@ private Q_SLOTS:
     void isShownWithoutAModel();
     void isCalledWithoutAModel();
     void showsAModelOfAnotherKindWithoutPaging();
-    void cutsOffAModelOfAnotherKind();
     void survivesAModelThatDies();
     void survivesAModelThatDiesWhileLoading();
     void survivesAnAnswerWithoutAButton();
@@ -78,30 +26,9 @@ private Q_SLOTS:
     void survivesAModelWithoutColumns();
     void survivesAModelThatReplacesItsColumns_data();
     void survivesAModelThatReplacesItsColumns();
-    void survivesAModelReplacedWhileItsButtonIsClicked();
-    void ignoresAClickOnAReleasedButton();
-    void takesAPageFromAnotherThread();
-    void takesASessionFromAnotherThread();
-    void sparesTheNextModelFromALatePageOrSession_data();
-    void sparesTheNextModelFromALatePageOrSession();
-    void asksTheNextModelForAPageThatWasWantedBefore();
-    void takesALateSessionOfAModelThatIsSetAgain();
-    void survivesItsDeletionByACallThatWasQueued();
     void ignoresRowsOfAChild();
     void keepsTheCurrentCellWhenTheFocusedButtonScrollsAway();
-
-public Q_SLOTS:
-    void replaceModel();
-
-private:
-    QPointer<FileListTableView> actedOn;
-    QPointer<PagedModel> replacement;
 };
-
-void FileListSafetyTest::replaceModel()
-{
-    actedOn->setModel(replacement);
-}
 
 void FileListSafetyTest::isShownWithoutAModel()
 {
@@ -146,24 +73,6 @@ void FileListSafetyTest::showsAModelOfAnotherKindWithoutPaging()
 
     QCOMPARE(model.rowCount(), 3);
     QCOMPARE(buttonCount(view), 0);
-}
-
-void FileListSafetyTest::cutsOffAModelOfAnotherKind()
-{
-    OfferingList former;
-    PagedModel model;
-    FileListTableView view;
-    view.setModel(&former);
-    view.setModel(&model);
-    showWindow(&view, 600, 300);
-    model.insertPage(2);
-    view.StartLoadingData();
-
-    former.speakUp();
-
-    QCOMPARE(former.requests, 0);
-    QCOMPARE(model.rowCount(), 3);
-    QCOMPARE(labelOfButton(view), QString("loading..."));
 }
 
 void FileListSafetyTest::survivesAModelThatDies()
@@ -322,164 +231,6 @@ void FileListSafetyTest::survivesAModelThatReplacesItsColumns()
     QVERIFY(!button);
 
     QCOMPARE(buttonCount(view), changesSession ? 1 : 0);
-}
-
-void FileListSafetyTest::survivesAModelReplacedWhileItsButtonIsClicked()
-{
-    PagedModel model;
-    PagedModel second;
-    FileListTableView view;
-    view.setModel(&model);
-    showWindow(&view, 400, 300);
-    actedOn = &view;
-    replacement = &second;
-    connect(&view, SIGNAL(requestItems()), SLOT(replaceModel()));
-
-    QTest::mouseClick(view.indexWidget(model.index(0, 0)), Qt::LeftButton);
-    disconnect(&view, SIGNAL(requestItems()), this, SLOT(replaceModel()));
-    use(&view);
-
-    QCOMPARE(buttonCount(view), 1);
-    QVERIFY(view.indexWidget(second.index(0, 0)));
-}
-
-void FileListSafetyTest::ignoresAClickOnAReleasedButton()
-{
-    PagedModel first;
-    PagedModel second;
-    FileListTableView view;
-    view.setModel(&first);
-    const QPointer<QPushButton> released = view.viewport()->findChild<QPushButton *>();
-    QVERIFY(released);
-    view.setModel(&second);
-    QVERIFY(released); // until the event loop turns
-
-    released->click();
-
-    QCOMPARE(second.requests, 0);
-}
-
-void FileListSafetyTest::takesAPageFromAnotherThread()
-{
-    PagedModel model;
-    FileListTableView view;
-    view.setModel(&model);
-    view.StartLoadingData();
-    PageThread loader(&model, false);
-
-    loader.start();
-    QVERIFY(loader.join());
-
-    QCOMPARE(labelOfButton(view), QString("loading..."));
-    QTRY_COMPARE(labelOfButton(view), QString("none"));
-}
-
-void FileListSafetyTest::takesASessionFromAnotherThread()
-{
-    PagedModel model;
-    FileListTableView view;
-    view.setModel(&model);
-    PageThread loader(&model, true);
-
-    loader.start();
-    QVERIFY(loader.join());
-
-    QTRY_COMPARE(model.requests, 1);
-    QCOMPARE(labelOfButton(view), QString("loading..."));
-}
-
-void FileListSafetyTest::sparesTheNextModelFromALatePageOrSession_data()
-{
-    QTest::addColumn<bool>("changesSession");
-    QTest::addColumn<bool>("dies");
-    QTest::addColumn<bool>("isTakenAway");
-
-    QTest::newRow("page") << false << false << false;
-    QTest::newRow("session") << true << false << false;
-    QTest::newRow("page of a model that dies") << false << true << false;
-    QTest::newRow("session of a model that dies") << true << true << false;
-    QTest::newRow("page, taken away in between") << false << false << true;
-    QTest::newRow("page of a model that dies, likewise") << false << true << true;
-}
-
-void FileListSafetyTest::sparesTheNextModelFromALatePageOrSession()
-{
-    QFETCH(bool, changesSession);
-    QFETCH(bool, dies);
-    QFETCH(bool, isTakenAway);
-    QScopedPointer<PagedModel> model(new PagedModel);
-    PagedModel second;
-    FileListTableView view;
-    view.setModel(model.data());
-    view.StartLoadingData();
-    PageThread loader(model.data(), changesSession);
-    loader.start();
-    QVERIFY(loader.join()); // what it said is on its way to the view
-
-    if (dies) {
-        model.reset();
-    }
-    if (isTakenAway) {
-        view.setModel(nullptr);
-    }
-    view.setModel(&second);
-    second.insertPage(3);
-    goThroughEvents();
-
-    QCOMPARE(second.rowCount(), 4);
-    QCOMPARE(second.requests, 0);
-    QCOMPARE(labelOfButton(view), QString()); // nothing was asked for, nothing has come
-}
-
-void FileListSafetyTest::asksTheNextModelForAPageThatWasWantedBefore()
-{
-    PagedModel model;
-    PagedModel second;
-    PagedModel third;
-    FileListTableView view;
-    view.setModel(&model);
-    QMetaObject::invokeMethod(&view, "StartLoadingData", Qt::QueuedConnection);
-
-    view.setModel(&second);
-    goThroughEvents();
-
-    QCOMPARE(model.requests, 0);
-    QCOMPARE(second.requests, 1);
-    QCOMPARE(labelOfButton(view), QString("loading..."));
-    view.setModel(&third);
-    goThroughEvents();
-    QCOMPARE(third.requests, 0); // it was wanted once
-}
-
-void FileListSafetyTest::takesALateSessionOfAModelThatIsSetAgain()
-{
-    PagedModel model;
-    FileListTableView view;
-    view.setModel(&model);
-    PageThread loader(&model, true);
-    loader.start();
-    QVERIFY(loader.join());
-
-    view.setModel(&model);
-    goThroughEvents();
-
-    QCOMPARE(model.requests, 1);
-    QCOMPARE(model.rowCount(), 1);
-}
-
-void FileListSafetyTest::survivesItsDeletionByACallThatWasQueued()
-{
-    PagedModel model;
-    PagedModel second;
-    SelfDeletingList *view = new SelfDeletingList;
-    const QPointer<SelfDeletingList> guard(view);
-    view->setModel(&model);
-    QMetaObject::invokeMethod(view, "vanish", Qt::QueuedConnection);
-
-    view->setModel(&second);
-
-    QVERIFY(!guard);
-    QCOMPARE(second.rowCount(), 0);
 }
 
 void FileListSafetyTest::ignoresRowsOfAChild()

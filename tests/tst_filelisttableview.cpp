@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "CellButton.h"
 #include "ShownList.h"
 #include "TestCase.h"
-#include "ViewHelpers.h"
 
 #include <QPointer>
-#include <QScrollBar>
 
 namespace {
 
@@ -18,20 +15,6 @@ QString joined(const QList<QByteArray> &names)
     return list.join(",");
 }
 
-class GermanPaging : public compat::Translator
-{
-protected:
-    QString find(const QByteArray &context, const QByteArray &source) const override
-    {
-        if (context != "FileListTableView") {
-            return QString();
-        }
-        return source == "Common::Next" ? QString("Weiter")
-            : source == "loading..."    ? QString("wird geladen")
-                                        : QString();
-    }
-};
-
 } // namespace
 
 class FileListTableViewTest : public TestCase
@@ -43,33 +26,13 @@ private Q_SLOTS:
     void listsItsMethodsInOrder();
     void startsAsAReadOnlyListWithoutGrid();
     void appendsARowWithAnUnlabelledButton();
-    void asksForNoPageByItself();
-    void asksForAPageOnceWhileOneIsOnItsWay();
-    void goesFromPageToPage();
-    void ignoresTheCountOfAPage_data();
-    void ignoresTheCountOfAPage();
-    void removesButtonAndRowAfterTheLastPage();
-    void labelsTheButtonEvenWhenItGoes();
-    void translatesItsLabels();
-    void startsAnewWhenTheSessionChanges();
-    void asksForNoSecondPageWhenTheSessionChangesWhileLoading();
-    void startsAnewAfterTheLastPage();
-    void acceptsAnAnswerAtOnce();
-    void goesOnAfterAnAnswerAtOnce();
-    void keepsTheRowsWhenTheModelIsTakenAway();
-    void cutsOffAModelThatIsReplaced();
-    void givesTheSecondModelAButtonThatStays();
     void followsTheLastRowWhenAModelAppendsBehindIt();
     void leavesAnotherWidgetInTheLastRow();
     void leavesTheCurrentCellAloneWhenTheButtonIsClicked();
     void deletesItsButtonWithItself();
     void deletesAButtonThatNeverFoundACell();
-    void keepsTheNewModelsRowsFromTheOldModelsSession();
-    void keepsARequestUnderWayWhenTheSameModelIsSetAgain();
-    void keepsItsOneButtonWhenTheSameModelIsSetAgain();
 
 public Q_SLOTS:
-    void deliverAPage();
     void coverTheLastRow();
 
 private:
@@ -77,11 +40,6 @@ private:
     FileListTableView *covered;
     QPointer<QWidget> cover;
 };
-
-void FileListTableViewTest::deliverAPage()
-{
-    asked->deliver(2, false);
-}
 
 void FileListTableViewTest::coverTheLastRow()
 {
@@ -154,221 +112,6 @@ void FileListTableViewTest::appendsARowWithAnUnlabelledButton()
     QVERIFY(!list.button()->isFlat());
     QCOMPARE(list.button()->parentWidget(), list.view.viewport());
     QVERIFY(!list.model.item(0, 0));
-}
-
-void FileListTableViewTest::asksForNoPageByItself()
-{
-    List list;
-
-    QCoreApplication::processEvents();
-
-    QCOMPARE(list.model.requests, 0);
-}
-
-void FileListTableViewTest::asksForAPageOnceWhileOneIsOnItsWay()
-{
-    List list;
-    QSignalSpy spy(&list.view, SIGNAL(requestItems()));
-
-    list.click();
-    list.click();
-
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(list.model.requests, 1);
-    QCOMPARE(list.paging(), QString("0 loading..."));
-}
-
-void FileListTableViewTest::goesFromPageToPage()
-{
-    List list;
-    list.click();
-    list.model.deliver(3, false);
-    QCOMPARE(list.paging(), QString("3 Next >>"));
-    QCoreApplication::processEvents();
-
-    list.click();
-    QCOMPARE(list.paging(), QString("3 loading..."));
-    list.model.deliver(2, false);
-
-    QCOMPARE(list.paging(), QString("5 Next >>"));
-    QCOMPARE(texts(list.model, 0), QString("file0,file1,file2,file3,file4,"));
-    QCOMPARE(list.model.requests, 2);
-}
-
-void FileListTableViewTest::ignoresTheCountOfAPage_data()
-{
-    QTest::addColumn<qint64>("count");
-
-    QTest::newRow("right") << qint64(2);
-    QTest::newRow("none") << qint64(0);
-    QTest::newRow("negative") << qint64(-1);
-    QTest::newRow("largest") << Q_INT64_C(9223372036854775807);
-}
-
-void FileListTableViewTest::ignoresTheCountOfAPage()
-{
-    QFETCH(qint64, count);
-    List list;
-    list.view.StartLoadingData();
-    list.model.insertPage(2);
-
-    list.model.announce(count, false);
-
-    QCOMPARE(list.paging(), QString("2 Next >>"));
-}
-
-void FileListTableViewTest::removesButtonAndRowAfterTheLastPage()
-{
-    List list;
-    const QPointer<CellButton> button = list.button();
-    list.click();
-
-    list.model.deliver(2, true);
-
-    QVERIFY(button.isNull()); // at once
-    QCOMPARE(list.paging(), QString("none"));
-    QCOMPARE(texts(list.model, 0), QString("file0,file1"));
-}
-
-void FileListTableViewTest::labelsTheButtonEvenWhenItGoes()
-{
-    List list;
-    list.view.StartLoadingData();
-    list.view.setModel(nullptr); // keeps the button
-
-    list.view.FinishLoadingData(0, true);
-
-    QCOMPARE(list.paging(), QString("0 Next >>"));
-}
-
-void FileListTableViewTest::translatesItsLabels()
-{
-    List list;
-    GermanPaging german;
-    QCoreApplication::installTranslator(&german);
-
-    list.view.StartLoadingData();
-    const QString loading = list.paging();
-    list.model.deliver(1, false);
-    const QString next = list.paging();
-
-    QCoreApplication::removeTranslator(&german);
-    QCOMPARE(loading, QString("0 wird geladen"));
-    QCOMPARE(next, QString("1 Weiter >>"));
-}
-
-void FileListTableViewTest::startsAnewWhenTheSessionChanges()
-{
-    List list;
-    list.fill(3);
-    const QPointer<CellButton> old = list.button();
-
-    list.model.changeSession();
-
-    QVERIFY(old.isNull());
-    QCOMPARE(list.model.rowCount(), 1);
-    QCOMPARE(list.paging(), QString("0 loading..."));
-    QCOMPARE(list.model.requests, 2);
-}
-
-void FileListTableViewTest::asksForNoSecondPageWhenTheSessionChangesWhileLoading()
-{
-    List list;
-    list.view.StartLoadingData();
-    list.model.insertPage(3);
-
-    list.model.changeSession();
-
-    QCOMPARE(list.model.requests, 1);
-    QCOMPARE(list.paging(), QString("0 ")); // a new button without a text
-    list.model.deliver(1, false);
-    QCOMPARE(list.paging(), QString("1 Next >>"));
-}
-
-void FileListTableViewTest::startsAnewAfterTheLastPage()
-{
-    List list;
-    list.view.StartLoadingData();
-    list.model.deliver(3, true);
-
-    list.model.changeSession();
-
-    QCOMPARE(list.paging(), QString("0 loading..."));
-    QCOMPARE(list.model.requests, 2);
-}
-
-void FileListTableViewTest::acceptsAnAnswerAtOnce()
-{
-    List list;
-    list.model.answersAtOnce = 4;
-
-    list.click(); // the button goes within its own click
-
-    QCOMPARE(list.paging(), QString("none"));
-    QCOMPARE(list.model.rowCount(), 4);
-}
-
-void FileListTableViewTest::goesOnAfterAnAnswerAtOnce()
-{
-    List list;
-    asked = &list.model;
-    connect(&list.view, SIGNAL(requestItems()), SLOT(deliverAPage()));
-
-    list.click();
-    QCOMPARE(list.paging(), QString("2 Next >>"));
-    QCoreApplication::processEvents();
-    list.click();
-
-    QCOMPARE(list.paging(), QString("4 Next >>"));
-}
-
-void FileListTableViewTest::keepsTheRowsWhenTheModelIsTakenAway()
-{
-    List list;
-    list.fill(2);
-    QSignalSpy spy(&list.view, SIGNAL(requestItems()));
-
-    list.view.setModel(nullptr);
-    list.click();
-    list.click();
-
-    QCOMPARE(list.view.model(), static_cast<QAbstractItemModel *>(&list.model));
-    QCOMPARE(list.paging(), QString("2 loading..."));
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(list.model.requests, 1); // nobody was asked
-    list.model.announce(1, false);
-    QCOMPARE(list.paging(), QString("2 loading...")); // nobody listens
-}
-
-void FileListTableViewTest::cutsOffAModelThatIsReplaced()
-{
-    List list;
-    PagedModel second;
-
-    list.view.setModel(&second);
-    list.view.StartLoadingData();
-    list.model.announce(1, true);
-    list.model.changeSession();
-
-    QCOMPARE(list.model.requests, 0);
-    QCOMPARE(second.requests, 1);
-    QCOMPARE(second.rowCount(), 1);
-}
-
-void FileListTableViewTest::givesTheSecondModelAButtonThatStays()
-{
-    List list;
-    list.view.StartLoadingData(); // and never answers
-    PagedModel second;
-
-    list.view.setModel(&second);
-    QCoreApplication::processEvents();
-    compat::deliverDeferredDeletes();
-
-    QVERIFY(list.view.indexWidget(second.index(0, 0)));
-    QCOMPARE(buttonCount(list.view), 1);
-    QTest::mouseClick(list.view.indexWidget(second.index(0, 0)), Qt::LeftButton);
-    QCOMPARE(second.requests, 1);
 }
 
 void FileListTableViewTest::followsTheLastRowWhenAModelAppendsBehindIt()
@@ -445,42 +188,6 @@ void FileListTableViewTest::deletesAButtonThatNeverFoundACell()
     delete view;
 
     QCOMPARE(int(QApplication::topLevelWidgets().size()), before);
-}
-
-void FileListTableViewTest::keepsTheNewModelsRowsFromTheOldModelsSession()
-{
-    List list;
-    PagedModel second;
-    list.view.setModel(&second);
-    list.view.StartLoadingData();
-    second.deliver(3, false);
-
-    list.model.changeSession();
-
-    QCOMPARE(second.rowCount(), 4);
-    QCOMPARE(second.requests, 1);
-}
-
-void FileListTableViewTest::keepsARequestUnderWayWhenTheSameModelIsSetAgain()
-{
-    List list;
-    list.view.StartLoadingData();
-
-    list.view.setModel(&list.model);
-    list.view.StartLoadingData();
-
-    QCOMPARE(list.model.requests, 1);
-}
-
-void FileListTableViewTest::keepsItsOneButtonWhenTheSameModelIsSetAgain()
-{
-    List list;
-    list.fill(2);
-
-    list.view.setModel(&list.model);
-
-    QCOMPARE(buttonCount(list.view), 1);
-    QCOMPARE(list.paging(), QString("3 Next >>"));
 }
 
 TESSALINE_TEST_MAIN(FileListTableViewTest)

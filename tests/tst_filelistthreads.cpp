@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "JoinedThread.h"
+#include "PageThread.h"
 #include "ShownList.h"
 #include "TestCase.h"
 
@@ -186,6 +187,8 @@ private Q_SLOTS:
     void asksForAPageInTheModelsThread();
     void listsAllPagesInOrder();
     void listsAnotherSession();
+    void takesAPageFromAnotherThread();
+    void takesASessionFromAnotherThread();
 };
 
 void FileListThreadsTest::asksForAPageInTheModelsThread()
@@ -227,6 +230,35 @@ void FileListThreadsTest::listsAnotherSession()
     QTRY_COMPARE(list.label(), QString("Next >>"));
     QCOMPARE(list.model.rowCount(), rowsOfPage + 1);
     QCOMPARE(list.model.index(0, 0).data().toString(), QString("0"));
+}
+
+void FileListThreadsTest::takesAPageFromAnotherThread()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&model);
+    view.StartLoadingData();
+    PageThread loader(&model, false);
+
+    loader.start();
+    QVERIFY(loader.join());
+
+    QCOMPARE(labelOfButton(view), QString("loading..."));
+    QTRY_COMPARE(labelOfButton(view), QString("none"));
+}
+
+void FileListThreadsTest::takesASessionFromAnotherThread()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.setModel(&model);
+    PageThread loader(&model, true);
+
+    loader.start();
+    QVERIFY(loader.join());
+
+    QTRY_COMPARE(model.requests, 1);
+    QCOMPARE(labelOfButton(view), QString("loading..."));
 }
 
 TESSALINE_TEST_MAIN(FileListThreadsTest)

@@ -3,8 +3,8 @@
 #define TESSALINE_TWOPLOTS_H
 
 #include "ByteSizeScaleDraw.h"
-#include "PlotClock.h"
 #include "PlotSamples.h"
+#include "PretendedClock.h"
 #include "QtCompat.h"
 #include "QwtCompat.h"
 #include "QwtTestCompat.h"
@@ -25,16 +25,6 @@
 /// A chart and a bare plot that is told the same, and how their pictures differ.
 
 const int lastSecond = 5000; // of all samples
-inline int &pretendedSecond()
-{
-    static int second = 0;
-    return second;
-}
-
-inline QDateTime pretendedTime()
-{
-    return PlotClock::startTimeUtc.addSecs(pretendedSecond());
-}
 
 typedef QMap<int, qint64> Samples; ///< By the second that they are of.
 

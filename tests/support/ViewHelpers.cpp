@@ -66,6 +66,12 @@ int buttonCount(const QAbstractItemView &view)
     return int(view.viewport()->findChildren<QPushButton *>().size());
 }
 
+QString labelOfButton(const QAbstractItemView &view)
+{
+    const QList<QPushButton *> buttons = view.viewport()->findChildren<QPushButton *>();
+    return buttons.isEmpty() ? QString("none") : buttons.last()->text();
+}
+
 QColor colorAt(QWidget *widget, const QPoint &place)
 {
     const QImage image = compat::grab(widget).toImage();

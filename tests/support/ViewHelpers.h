@@ -34,6 +34,9 @@ QString texts(const QAbstractItemModel &model, int column);
 /// All push buttons that a view holds, those about to be deleted left out.
 int buttonCount(const QAbstractItemView &view);
 
+/// The text of the newest push button that a view holds; "none" without one.
+QString labelOfButton(const QAbstractItemView &view);
+
 /// The colour that a widget shows at a place in its own coordinates, however many pixels of the
 /// screen make up one of those.
 QColor colorAt(QWidget *widget, const QPoint &place);
