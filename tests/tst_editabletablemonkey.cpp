@@ -1,83 +1,29 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "CellButton.h"
-#include "CellEditor.h"
-#include "EditableTableView.h"
-#include "GridMonkey.h"
-#include "QtCompat.h"
+#include "ColumnMonkey.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
-#include <QComboBox>
-#include <QHeaderView>
 #include <QLineEdit>
-#include <QSortFilterProxyModel>
-#include <QStringListModel>
 
 namespace {
 
-const int mostDeclarations = 7;
 const int secretRole = Qt::UserRole + 1;
-
-struct Kind
-{
-    const char *declaration;
-    const char *delegate; ///< Null for a plain column.
-    bool isButton;
-};
-
-const Kind kinds[] = {{"combobox", "ComboItemDelegate", false},
-                      {"editcombobox", "EditComboItemDelegate", false},
-                      {"editbox", "EditItemDelegate", false},
-                      {" EditBox ", "EditItemDelegate", false},
-                      {"passwordbox", "PasswordItemDelegate", false},
-                      {"checkbox:Verify", "CheckItemDelegate", false},
-                      {"button:Go", nullptr, true},
-                      {"BUTTON : L\xf6schen:%1", nullptr, true},
-                      {"", nullptr, false},
-                      {"nonsense:button", nullptr, false}};
-const int kindCount = sizeof(kinds) / sizeof(kinds[0]);
-
-/// Tells what only derived classes may know.
-class OpenTable : public EditableTableView
-{
-public:
-    bool isHeldBack() const
-    {
-        return state() == CollapsingState;
-    }
-};
 
 } // namespace
 
-/// Plays with an editable table, and keeps by other means where its buttons should be.
-class EditableTableMonkey : public GridMonkey
+/// Plays with an editable table: edits its cells, clicks its buttons, and has the application
+/// answer what it hears with something else.
+class EditableTableMonkey : public ColumnMonkey
 {
-    Q_OBJECT
-
 public:
     explicit EditableTableMonkey(quint32 seed);
     ~EditableTableMonkey() override;
 
 protected:
-    QTableView *table() const override;
     void look() override;
 
-private Q_SLOTS:
-    void noteRows(const QModelIndex &parent, int start);
-    void noteReset();
-    void noteWrite(const QModelIndex &cell);
-    void noteClick(QWidget *button, int row, int column, const QStringList &rowData);
-
 private:
-    void declareColumns();
-    void bindList();
-    void replaceModel();
-    void showSorted();
-    void setModelAgain();
-    void takeModelAway();
-    void deleteModel();
-    void replaceView();
-
     void openEditor();
     void openPersistentEditor();
     void closePersistentEditor();
@@ -88,55 +34,26 @@ private:
     void clickButton();
     void chooseReaction();
 
-    void setStretchSection();
-    void resizeAndLook();
-    void resizeSectionAndLook();
-    void dragSectionAndLook();
-
-    void show(QAbstractItemModel *model);
-    void react(int row);
-    void expectButton(int row, int column);
-    void lookAtButtons();
-    void lookAtDelegates();
+    void react(int row) override;
     void lookAtSecrets();
-    void lookAtWrites();
-    void lookAtNeighbours(int resized, const QList<int> &before);
-    const Kind *kindOf(int column) const;
-    QList<int> sizes() const;
-    int absorberOf(int section) const;
 
-    QPointer<OpenTable> view;
-    QSortFilterProxyModel *proxy;
-    QPointer<QStringListModel> list;
-    QList<int> declared; ///< By kind.
-    QList<QPersistentModelIndex> withButton;
     int reaction;
     bool isReacting;
     bool mayRemove; ///< Qt itself dies of cells and editors that vanish in the midst of other
                     ///< changes.
-    int clicks;
 };
 
 EditableTableMonkey::EditableTableMonkey(quint32 seed)
-    : GridMonkey(seed)
-    , proxy(nullptr)
+    : ColumnMonkey(seed)
     , reaction(0)
     , isReacting(false)
     , mayRemove(false)
-    , clicks(0)
 {
     replaceView();
 
     canUseTheTable();
     canChangeTheGrid();
-    can(15, "declareColumns", &EditableTableMonkey::declareColumns);
-    can(15, "bindList", &EditableTableMonkey::bindList);
-    can(10, "replaceModel", &EditableTableMonkey::replaceModel);
-    can(3, "showSorted", &EditableTableMonkey::showSorted);
-    can(3, "setModelAgain", &EditableTableMonkey::setModelAgain);
-    can(2, "takeModelAway", &EditableTableMonkey::takeModelAway);
-    can(4, "deleteModel", &EditableTableMonkey::deleteModel);
-    can(2, "replaceView", &EditableTableMonkey::replaceView);
+    canDeclareColumns();
     can(60, "openEditor", &EditableTableMonkey::openEditor);
     can(10, "openPersistentEditor", &EditableTableMonkey::openPersistentEditor);
     can(10, "closePersistentEditor", &EditableTableMonkey::closePersistentEditor);
@@ -146,21 +63,12 @@ EditableTableMonkey::EditableTableMonkey(quint32 seed)
     can(20, "moveColumnsBelowASecret", &EditableTableMonkey::moveColumnsBelowASecret);
     can(40, "clickButton", &EditableTableMonkey::clickButton);
     can(20, "chooseReaction", &EditableTableMonkey::chooseReaction);
-    can(10, "setStretchSection", &EditableTableMonkey::setStretchSection);
-    can(15, "resizeAndLook", &EditableTableMonkey::resizeAndLook);
-    can(20, "resizeSectionAndLook", &EditableTableMonkey::resizeSectionAndLook);
-    can(40, "dragSectionAndLook", &EditableTableMonkey::dragSectionAndLook);
+    canResizeSections();
 }
 
 EditableTableMonkey::~EditableTableMonkey()
 {
     delete view;
-    delete list;
-}
-
-QTableView *EditableTableMonkey::table() const
-{
-    return view;
 }
 
 void EditableTableMonkey::look()
@@ -170,126 +78,6 @@ void EditableTableMonkey::look()
     lookAtDelegates();
     lookAtSecrets();
     lookAtWrites();
-}
-
-// What the application hears
-
-void EditableTableMonkey::noteRows(const QModelIndex &parent, int start)
-{
-    for (int column = 0; !parent.isValid() && column < declared.size(); ++column) {
-        if (kindOf(column)->isButton) {
-            expectButton(start, column);
-        }
-    }
-}
-
-void EditableTableMonkey::noteReset()
-{
-    withButton.clear();
-}
-
-void EditableTableMonkey::noteWrite(const QModelIndex &cell)
-{
-    react(cell.row());
-}
-
-void EditableTableMonkey::noteClick(QWidget *button, int row, int column,
-                                    const QStringList &rowData)
-{
-    ++clicks;
-    expect(button && view->button(row, column) == button, "a click from elsewhere");
-    QStringList texts;
-    for (int i = 0; i < declared.size(); ++i) {
-        if (kindOf(i)->delegate) {
-            texts.append(view->model()->index(row, i).data(Qt::EditRole).toString());
-        }
-    }
-    expectEqual(rowData, texts, "texts of a click");
-    react(row);
-}
-
-// What the application does
-
-void EditableTableMonkey::declareColumns()
-{
-    QList<int> chosen;
-    QStringList declarations;
-    for (int left = dice.below(mostDeclarations); left > 0; --left) {
-        chosen.append(dice.below(kindCount));
-        declarations.append(QString::fromLatin1(kinds[chosen.last()].declaration));
-    }
-    view->setColumns(declarations);
-    declared = chosen; // only now: what is committed may bring about other declarations before
-    expectEqual(view->getColumns(), declarations, "declarations");
-}
-
-void EditableTableMonkey::bindList()
-{
-    if (list && dice.oneIn(3)) {
-        delete list;
-    }
-    if (!list) {
-        list = new QStringListModel(QStringList() << "a"
-                                                  << "b");
-    }
-    view->bindModel(dice.between(-1, mostDeclarations), list, dice.between(-1, 1));
-}
-
-// The old model goes later: it may be the one that called.
-void EditableTableMonkey::replaceModel()
-{
-    if (grid) {
-        grid->deleteLater();
-    }
-    grid = createGrid();
-    show(grid);
-}
-
-void EditableTableMonkey::showSorted()
-{
-    if (grid) {
-        QSortFilterProxyModel *former = proxy;
-        proxy = new QSortFilterProxyModel(this);
-        proxy->setSourceModel(grid);
-        proxy->setDynamicSortFilter(dice.oneIn(2));
-        proxy->sort(dice.below(2));
-        show(proxy);
-        delete former;
-    }
-}
-
-void EditableTableMonkey::setModelAgain()
-{
-    if (view->model()) {
-        show(view->model());
-    }
-}
-
-void EditableTableMonkey::takeModelAway()
-{
-    show(nullptr);
-}
-
-void EditableTableMonkey::deleteModel()
-{
-    if (view->model() == grid) {
-        compat::deleteModel(grid, view);
-    }
-}
-
-void EditableTableMonkey::replaceView()
-{
-    if (view) {
-        show(nullptr);
-    }
-    delete view;
-    view = new OpenTable;
-    connect(view,
-            SIGNAL(buttonClicked(QWidget*,int,int,QStringList)),
-                   SLOT(noteClick(QWidget*,int,int,QStringList)));
-    declareColumns();
-    replaceModel();
-    showWindow(view, 400, 200);
 }
 
 void EditableTableMonkey::openEditor()
@@ -332,7 +120,7 @@ void EditableTableMonkey::cancelEditor()
 void EditableTableMonkey::editAndLook()
 {
     const QPersistentModelIndex cell = anyCell();
-    const Kind *kind = cell.isValid() ? kindOf(cell.column()) : nullptr;
+    const ColumnKind *kind = cell.isValid() ? kindOf(cell.column()) : nullptr;
     if (!kind || !kind->delegate || view->indexWidget(cell)) {
         return;
     }
@@ -397,99 +185,7 @@ void EditableTableMonkey::chooseReaction()
     reaction = qMax(0, dice.between(-5, 7)); // as often as not, none
 }
 
-// Sections
-
-void EditableTableMonkey::setStretchSection()
-{
-    view->setStretchSection(dice.between(-1, 7));
-}
-
-void EditableTableMonkey::resizeAndLook()
-{
-    const int width = dice.between(1, 700);
-    view->resize(width + 50, 150);
-    goThroughEvents();
-    view->resize(width, 150);
-    goThroughEvents();
-    goThroughEvents();
-    const int section = view->getStretchSection();
-    if (!view->model() || section < 0 || section >= columnCount()
-        || header()->isSectionHidden(section)) {
-        return;
-    }
-    int total = 0;
-    for (const int size : sizes()) {
-        total += size;
-    }
-    const bool isFloored = header()->sectionSize(section) == 20 && total > header()->width();
-    // Qt 6 may count a hidden section in the header's length, and then scroll bars come and go.
-    const bool isConsistent = header()->hiddenSectionCount() == 0 || header()->length() == total;
-    expect(!isConsistent || isFloored || total == header()->width(),
-           "the sections do not fill the view");
-}
-
-void EditableTableMonkey::resizeSectionAndLook()
-{
-    const QList<int> before = sizes();
-    const int minimum = header()->minimumSectionSize();
-    const int section = dice.below(header()->count() + 1);
-    const int size = dice.between(0, 150);
-    view->resizeSection(section, size);
-    for (int i = 0; i < before.size(); ++i) {
-        const bool isResized = i == section && !header()->isSectionHidden(i);
-        expectEqual(header()->sectionSize(i), isResized ? size : before.at(i), "resized section");
-    }
-    expectEqual(header()->minimumSectionSize(), minimum, "minimum of the user's mouse");
-}
-
-// Alternately as an application does it and as a user does.
-void EditableTableMonkey::dragSectionAndLook()
-{
-    const QList<int> before = sizes();
-    const int section = dice.below(header()->count());
-    if (before.isEmpty() || !view->model() || header()->isSectionHidden(section)) {
-        return;
-    }
-    header()->resizeSection(section, dice.between(0, 200));
-    lookAtNeighbours(section, before);
-}
-
 // How it is done, and what to look at
-
-void EditableTableMonkey::show(QAbstractItemModel *model)
-{
-    QList<QPersistentModelIndex> free;
-    QList<QPersistentModelIndex> edited; // of which some may get free now
-    const bool isNew = model != view->model();
-    for (int row = 0; model && row < model->rowCount(); ++row) {
-        for (int column = 0; column < model->columnCount(); ++column) {
-            const QModelIndex cell = model->index(row, column);
-            const Kind *kind = kindOf(column);
-            if (kind && kind->isButton && !(buttonAt(cell) && !isNew)) {
-                const bool isFree = isNew || !view->indexWidget(cell);
-                (isFree ? free : edited).append(cell);
-            }
-        }
-    }
-    if (isNew) {
-        withButton.clear();
-        if (view->model()) {
-            disconnect(view->model(), nullptr, this, nullptr);
-        }
-    }
-    view->setModel(model);
-    if (model && isNew) {
-        connect(model, SIGNAL(rowsInserted(QModelIndex,int,int)), SLOT(noteRows(QModelIndex,int)));
-        connect(model, SIGNAL(modelReset()), SLOT(noteReset()));
-        connect(model, SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(noteWrite(QModelIndex)));
-    }
-    withButton += free;
-    for (const QPersistentModelIndex &cell : edited) {
-        if (buttonAt(cell)) {
-            withButton.append(cell);
-        }
-    }
-}
 
 void EditableTableMonkey::react(int row)
 {
@@ -516,39 +212,6 @@ void EditableTableMonkey::react(int row)
     isReacting = false;
 }
 
-void EditableTableMonkey::expectButton(int row, int column)
-{
-    const QPersistentModelIndex cell = view->model()->index(row, column);
-    if (cell.isValid()) {
-        withButton.append(cell);
-    }
-}
-
-void EditableTableMonkey::lookAtButtons()
-{
-    int expected = 0;
-    for (int i = static_cast<int>(withButton.size()) - 1; i >= 0; --i) {
-        if (!withButton.at(i).isValid()) {
-            withButton.removeAt(i);
-        } else {
-            ++expected;
-            expect(buttonAt(withButton.at(i)), "a button is missing");
-        }
-    }
-    expectEqual(static_cast<int>(buttonsInCells().size()), expected, "buttons");
-}
-
-void EditableTableMonkey::lookAtDelegates()
-{
-    for (int column = 0; column < mostDeclarations; ++column) {
-        const Kind *kind = kindOf(column);
-        const QAbstractItemDelegate *delegate = view->itemDelegateForColumn(column);
-        const char *name = delegate ? delegate->metaObject()->className() : nullptr;
-        expectEqual(QString::fromLatin1(name), QString::fromLatin1(kind ? kind->delegate : nullptr),
-                    "delegate");
-    }
-}
-
 void EditableTableMonkey::lookAtSecrets()
 {
     for (int row = 0; grid && row < grid->rowCount(); ++row) {
@@ -557,57 +220,6 @@ void EditableTableMonkey::lookAtSecrets()
             expect(!text.contains(QLatin1Char(secretKey)), "a secret can be read");
         }
     }
-}
-
-// Only Qt's own delegate, that of plain columns, takes a cell of the former model for one of this.
-void EditableTableMonkey::lookAtWrites()
-{
-    const int column = grid ? grid->takeForeignColumn() : -1;
-    const Kind *kind = column < 0 ? nullptr : kindOf(column);
-    expect(!kind || !kind->delegate, "a cell of another model was written");
-}
-
-void EditableTableMonkey::lookAtNeighbours(int resized, const QList<int> &before)
-{
-    const QList<int> after = sizes();
-    const int absorber = absorberOf(resized);
-    if (after == before || header()->isSectionHidden(absorber)) {
-        return;
-    }
-    int others = 0;
-    for (int i = 0; i < after.size(); ++i) {
-        others += i == absorber ? 0 : after.at(i);
-        if (i != resized && i != absorber) {
-            expectEqual(after.at(i), before.at(i), "uninvolved section");
-        }
-    }
-    if (absorber >= 0) {
-        expectEqual(after.at(absorber), qMax(20, header()->width() - others), "neighbour");
-    }
-}
-
-const Kind *EditableTableMonkey::kindOf(int column) const
-{
-    return column < declared.size() ? &kinds[declared.at(column)] : nullptr;
-}
-
-QList<int> EditableTableMonkey::sizes() const
-{
-    QList<int> result;
-    for (int section = 0; section < header()->count(); ++section) {
-        result.append(header()->sectionSize(section));
-    }
-    return result;
-}
-
-// The neighbour is a logical index that is then taken for a place.
-int EditableTableMonkey::absorberOf(int section) const
-{
-    if (section >= columnCount() - 1) {
-        return -1;
-    }
-    const bool isFixed = compat::sectionResizeMode(header(), section + 1) == QHeaderView::Fixed;
-    return header()->logicalIndex(qMax(0, isFixed ? section - 1 : section + 1));
 }
 
 class EditableTableMonkeyTest : public TestCase

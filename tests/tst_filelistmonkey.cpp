@@ -1,9 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "CellButton.h"
-#include "FileListTableView.h"
-#include "PageThread.h"
-#include "PagedModel.h"
-#include "TableMonkey.h"
+#include "PagingMonkey.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
@@ -11,28 +7,9 @@
 #include <QScrollBar>
 #include <QStringListModel>
 
-namespace {
-
-const int mostRows = 40;
-const int pagedColumns = 5;
-
-/// Tells what only derived classes may know.
-class OpenList : public FileListTableView
+/// Plays with a file list: shows it other models, and looks at its columns.
+class FileListMonkey : public PagingMonkey
 {
-public:
-    bool isHeldBack() const
-    {
-        return state() == CollapsingState;
-    }
-};
-
-} // namespace
-
-/// Plays with a file list and its models, and keeps by other means what its button should be like.
-class FileListMonkey : public TableMonkey
-{
-    Q_OBJECT
-
 public:
     explicit FileListMonkey(quint32 seed);
     ~FileListMonkey() override;
@@ -41,31 +18,8 @@ protected:
     QTableView *table() const override;
     void look() override;
 
-private Q_SLOTS:
-    void notePage(qint64 count, bool completed);
-    void noteSession();
-    void noteRows(const QModelIndex &parent);
-    void noteRequest();
-
 private:
-    void startLoading();
-    void clickButton();
-    void deliver();
-    void announceTwice();
-    void finishByCall();
-    void changeSession();
-    void changeSessionByCall();
-    void announceFromThread();
-    void answerAtOnce();
-    void letFormerModelSpeak();
-
-    void removeRows();
-    void removePagingRow();
-    void changeRow();
-    void sortModel();
-    void clearModel();
-    void changeColumns();
-    void replaceModel();
+    void replaceModel() override;
     void takeModelAway();
     void showOtherModel();
     void deleteModel();
@@ -75,55 +29,21 @@ private:
 
     void forgetModel();
     void deliverToMonkey();
-    bool hasPagingRow() const;
-    void lookAtButton();
     void lookAtLook();
     void lookAtWidths();
 
-    QPointer<OpenList> view;
-    QPointer<PagedModel> model;
-    QList<QPointer<PagedModel>> formerModels;
     QStringListModel otherModel;
-
-    // What the view should be in.
-    bool attached; ///< To `model`; else its signals are nobody's business.
-    bool loading;
-    bool hasButton;
-    bool isPlaced; ///< The button stands in a cell; it has to wait while there is none.
-    QString label;
-
-    bool replacesWhenAsked; ///< The model, from the slot that its request calls.
 };
 
 FileListMonkey::FileListMonkey(quint32 seed)
-    : TableMonkey(seed)
+    : PagingMonkey(seed)
     , otherModel(QStringList() << "a"
                                << "b")
-    , attached(false)
-    , loading(false)
-    , hasButton(false)
-    , isPlaced(false)
-    , replacesWhenAsked(false)
 {
     replaceView();
 
     canUseTheTable();
-    can(60, "startLoading", &FileListMonkey::startLoading);
-    can(100, "clickButton", &FileListMonkey::clickButton);
-    can(150, "deliver", &FileListMonkey::deliver);
-    can(20, "announceTwice", &FileListMonkey::announceTwice);
-    can(10, "finishByCall", &FileListMonkey::finishByCall);
-    can(50, "changeSession", &FileListMonkey::changeSession);
-    can(10, "changeSessionByCall", &FileListMonkey::changeSessionByCall);
-    can(15, "announceFromThread", &FileListMonkey::announceFromThread);
-    can(30, "answerAtOnce", &FileListMonkey::answerAtOnce);
-    can(30, "letFormerModelSpeak", &FileListMonkey::letFormerModelSpeak);
-    can(40, "removeRows", &FileListMonkey::removeRows);
-    can(10, "removePagingRow", &FileListMonkey::removePagingRow);
-    can(40, "changeRow", &FileListMonkey::changeRow);
-    can(40, "sortModel", &FileListMonkey::sortModel);
-    can(5, "clearModel", &FileListMonkey::clearModel);
-    can(5, "changeColumns", &FileListMonkey::changeColumns);
+    canPage();
     can(20, "replaceModel", &FileListMonkey::replaceModel);
     can(8, "takeModelAway", &FileListMonkey::takeModelAway);
     can(3, "showOtherModel", &FileListMonkey::showOtherModel);
@@ -137,195 +57,11 @@ FileListMonkey::~FileListMonkey()
 {
     deliverToMonkey();
     delete view;
-    delete model;
-    for (const QPointer<PagedModel> &former : formerModels) {
-        delete former;
-    }
 }
 
 QTableView *FileListMonkey::table() const
 {
     return view;
-}
-
-// What the view should make of what happens
-
-void FileListMonkey::notePage(qint64, bool completed)
-{
-    loading = false;
-    label = QLatin1String(isTranslated() ? "<Common::Next> >>" : "Next >>");
-    if (completed && attached) {
-        hasButton = false;
-    }
-}
-
-void FileListMonkey::noteSession()
-{
-    if (attached) {
-        hasButton = true;
-        isPlaced = model->columnCount() > 0;
-        label = QString();
-    }
-}
-
-void FileListMonkey::noteRows(const QModelIndex &parent)
-{
-    if (attached && !parent.isValid() && model->columnCount() > 0) {
-        isPlaced = true;
-    }
-}
-
-void FileListMonkey::noteRequest()
-{
-    expect(!loading, "a page was asked for twice");
-    loading = true;
-    label = QLatin1String(isTranslated() ? "<loading...>" : "loading...");
-    if (replacesWhenAsked) {
-        replacesWhenAsked = false;
-        replaceModel();
-    }
-}
-
-// What an application and its models do
-
-void FileListMonkey::startLoading()
-{
-    const QPointer<PagedModel> asked = model;
-    view->StartLoadingData();
-    expect(loading || asked != model || (model && model->answersAtOnce >= 0), "no page asked for");
-}
-
-void FileListMonkey::clickButton()
-{
-    replacesWhenAsked = dice.oneIn(20);
-    const QList<CellButton *> buttons = buttonsInCells();
-    if (!buttons.isEmpty() && buttons.first()->isVisible()) {
-        clickOn(buttons.first());
-    }
-    replacesWhenAsked = false;
-}
-
-void FileListMonkey::deliver()
-{
-    if (model && model->rowCount() < mostRows) {
-        model->deliver(dice.below(5), dice.oneIn(4));
-    }
-}
-
-void FileListMonkey::announceTwice()
-{
-    if (model) {
-        model->announce(dice.between(-1, 5), dice.oneIn(2));
-        model->announce(dice.between(-1, 5), dice.oneIn(2));
-    }
-}
-
-void FileListMonkey::finishByCall()
-{
-    const bool completed = dice.oneIn(2);
-    notePage(0, completed);
-    view->FinishLoadingData(0, completed);
-}
-
-void FileListMonkey::changeSession()
-{
-    if (model) {
-        model->changeSession();
-    }
-}
-
-void FileListMonkey::changeSessionByCall()
-{
-    noteSession();
-    view->SessionChanged();
-}
-
-void FileListMonkey::announceFromThread()
-{
-    if (model) {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall); // one is on its way at most
-        PageThread thread(model, dice.oneIn(3), dice.oneIn(2));
-        thread.start();
-        expect(thread.join(), "a thread that does not end");
-    }
-}
-
-void FileListMonkey::answerAtOnce()
-{
-    if (model) {
-        model->answersAtOnce = dice.oneIn(2) ? -1 : dice.below(4);
-    }
-}
-
-void FileListMonkey::letFormerModelSpeak()
-{
-    formerModels.removeAll(QPointer<PagedModel>());
-    if (!formerModels.isEmpty()) {
-        const QPointer<PagedModel> former = dice.oneOf(formerModels);
-        former->deliver(1, dice.oneIn(2));
-        former->changeSession();
-        former->LoadItems();
-    }
-}
-
-void FileListMonkey::removeRows()
-{
-    const int files = model ? model->rowCount() - (hasButton ? 1 : 0) : 0;
-    if (files > 0) {
-        const int first = dice.below(files);
-        model->removeRows(first, dice.between(1, files - first));
-    }
-}
-
-void FileListMonkey::removePagingRow()
-{
-    if (hasPagingRow()) {
-        model->removeRow(model->rowCount() - 1);
-        hasButton = false;
-    }
-}
-
-void FileListMonkey::changeRow()
-{
-    if (!model || model->rowCount() == 0) {
-        return;
-    }
-    QStandardItem *item = model->item(dice.below(model->rowCount()), 0);
-    if (item && dice.oneIn(20)) {
-        while (item->rowCount() < model->rowCount()) {
-            item->appendRow(new QStandardItem("child"));
-        }
-    } else if (item) {
-        item->setText(QString::number(dice.below(1000)));
-    }
-}
-
-void FileListMonkey::sortModel()
-{
-    if (model) {
-        const bool isAscending = dice.oneIn(2);
-        model->sort(dice.below(pagedColumns),
-                    isAscending ? Qt::AscendingOrder : Qt::DescendingOrder);
-    }
-}
-
-// Not while a button waits for a column: its row would go, and the next one be a file's.
-void FileListMonkey::clearModel()
-{
-    if (model && (isPlaced || !hasButton)) {
-        hasButton = false;
-        model->clear();
-        model->setColumnCount(pagedColumns);
-    }
-}
-
-void FileListMonkey::changeColumns()
-{
-    if (model) {
-        hasButton = hasButton && !isPlaced;
-        model->setColumnCount(0);
-        model->setColumnCount(dice.oneIn(4) ? 0 : pagedColumns);
-    }
 }
 
 void FileListMonkey::replaceModel()
@@ -424,31 +160,12 @@ void FileListMonkey::deliverToMonkey()
     QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
 }
 
-bool FileListMonkey::hasPagingRow() const
-{
-    return model && view->model() == model && hasButton && isPlaced;
-}
-
 // What always holds
 
 void FileListMonkey::look()
 {
     lookAtButton();
     lookAtLook();
-}
-
-void FileListMonkey::lookAtButton()
-{
-    const QList<CellButton *> buttons = buttonsInCells();
-    const int expected = hasPagingRow() ? 1 : 0;
-    expectEqual(static_cast<int>(buttons.size()), expected, "paging buttons");
-    if (buttons.size() == 1 && expected == 1) {
-        const CellButton *button = buttons.first();
-        expectEqual(button->index.row(), model->rowCount() - 1, "row of the button");
-        expectEqual(button->index.column(), 0, "column of the button");
-        expectEqual(button->text(), label, "label");
-        expect(button->isEnabled(), "button disabled");
-    }
 }
 
 void FileListMonkey::lookAtLook()
