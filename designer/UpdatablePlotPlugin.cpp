@@ -4,11 +4,8 @@
 #include "DomXml.h"
 #include "UpdatablePlot.h"
 
-#include <QIcon>
-
 UpdatablePlotPlugin::UpdatablePlotPlugin(QObject *parent)
-    : QObject(parent)
-    , initialized(false)
+    : WidgetDescriptor(parent)
 {
 }
 
@@ -19,49 +16,14 @@ QString UpdatablePlotPlugin::name() const
     return QLatin1String("UpdatablePlot");
 }
 
-QString UpdatablePlotPlugin::group() const
-{
-    return QLatin1String("Vantrel Extra");
-}
-
 QString UpdatablePlotPlugin::toolTip() const
 {
     return QLatin1String("Data Plot");
 }
 
-QString UpdatablePlotPlugin::whatsThis() const
-{
-    return toolTip();
-}
-
-QString UpdatablePlotPlugin::includeFile() const
-{
-    return QLatin1String("UpdatablePlot.h");
-}
-
-QIcon UpdatablePlotPlugin::icon() const
-{
-    return QIcon();
-}
-
-bool UpdatablePlotPlugin::isContainer() const
-{
-    return false;
-}
-
 QWidget *UpdatablePlotPlugin::createWidget(QWidget *parent)
 {
     return new UpdatablePlot(parent);
-}
-
-bool UpdatablePlotPlugin::isInitialized() const
-{
-    return initialized;
-}
-
-void UpdatablePlotPlugin::initialize(QDesignerFormEditorInterface *)
-{
-    initialized = true;
 }
 
 QString UpdatablePlotPlugin::domXml() const

@@ -2,11 +2,10 @@
 #ifndef TESSALINE_UPDATABLEPLOTPLUGIN_H
 #define TESSALINE_UPDATABLEPLOTPLUGIN_H
 
-#include <QDesignerCustomWidgetInterface>
-#include <QObject>
+#include "WidgetDescriptor.h"
 
 /// Describes UpdatablePlot to Qt Designer.
-class UpdatablePlotPlugin : public QObject, public QDesignerCustomWidgetInterface
+class UpdatablePlotPlugin : public WidgetDescriptor
 {
     Q_OBJECT
     Q_INTERFACES(QDesignerCustomWidgetInterface)
@@ -16,19 +15,9 @@ public:
     ~UpdatablePlotPlugin() override;
 
     QString name() const override;
-    QString group() const override;
     QString toolTip() const override;
-    QString whatsThis() const override;
-    QString includeFile() const override;
-    QIcon icon() const override;
-    bool isContainer() const override;
     QWidget *createWidget(QWidget *parent) override;
-    bool isInitialized() const override;
-    void initialize(QDesignerFormEditorInterface *formEditor) override;
     QString domXml() const override;
-
-private:
-    bool initialized;
 };
 
 #endif

@@ -295,7 +295,8 @@ void DesignerPluginsTest::answersCastsOfEachDescriptor()
         << "QDesignerCustomWidgetInterface"
         << qobject_interface_iid<QDesignerCustomWidgetInterface *>() << "QObject"
         << "QDesignerCustomWidgetCollectionInterface"
-        << "Tessaline";
+        << "Tessaline"
+        << "WidgetDescriptor";
 
     for (QObject *descriptor : descriptors) {
         const QDesignerCustomWidgetInterface *widget
@@ -303,7 +304,7 @@ void DesignerPluginsTest::answersCastsOfEachDescriptor()
         QVERIFY(widget);
         const QString className = widget->name() + "Plugin";
         QCOMPARE(castsOf(descriptor, QStringList(className) + typeNames),
-                 QString("itself,interface,interface,itself,none,none"));
+                 QString("itself,interface,interface,itself,none,none,none"));
     }
 }
 
@@ -396,5 +397,4 @@ void DesignerPluginsTest::tellsTheBuildItWasMadeFor()
 }
 
 TESSALINE_TEST_MAIN(DesignerPluginsTest)
-
 #include "tst_designerplugins.moc"
