@@ -2,21 +2,18 @@
 #include "EditableTableView.h"
 
 #include "CellButton.h"
-#include "CellEditor.h"
 #include "CheckItemDelegate.h"
 #include "ColumnDeclaration.h"
 #include "EditComboItemDelegate.h"
+#include "OpenEditors.h"
 #include "PasswordItemDelegate.h"
 #include "QtCompat.h"
+#include "SectionSizing.h"
 
 #include <QAbstractItemDelegate>
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QItemDelegate>
-#include <QPointer>
-
-#include <algorithm>
-#include <vector>
 
 namespace {
 
@@ -103,45 +100,11 @@ void EditableTableView::setHorizontalHeaderClickable(bool clickable)
     compat::setSectionsClickable(horizontalHeader(), clickable);
 }
 
-// An editor that loses its delegate can't be closed any more, and what stands in it would later be
-// written by whichever delegate follows: a secret as plain text.
 void EditableTableView::finishEditing()
 {
-    std::vector<QPointer<QWidget>> editors; // of which one may go with another
-    const QObjectList &children = viewport()->children();
-    for (QObject *child : children) {
-        if (CellEditor::cellOf(child).isValid()) {
-            editors.push_back(static_cast<QWidget *>(child));
-        }
-    }
-    for (const QPointer<QWidget> &editor : editors) {
-        finishEditor(editor);
-    }
-}
-
-void EditableTableView::finishEditor(const QPointer<QWidget> &editor)
-{
-    if (isOpen(editor) && !CellEditor::Commit::isUnderWay(editor)) {
-        // Not by commitData(): while another editor is committed that does nothing.
-        const QPersistentModelIndex cell = CellEditor::cellOf(editor);
-        if (const QItemDelegate *delegate = delegates.value(cell.column())) {
-            delegate->setModelData(editor, model(), cell);
-        }
-    }
-    const QPointer<EditableTableView> self(this);
-    CellEditor::Commit::whenDone(editor, [self, editor]() {
-        if (self && self->isOpen(editor)) {
-            const QPersistentModelIndex cell = CellEditor::cellOf(editor);
-            self->closeEditor(editor, QAbstractItemDelegate::NoHint);
-            self->closePersistentEditor(cell); // where it is one: closeEditor() leaves those open
-        }
+    OpenEditors::finish(this, delegates, [this](QWidget *editor) {
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
     });
-}
-
-bool EditableTableView::isOpen(const QPointer<QWidget> &editor) const
-{
-    return editor && CellEditor::cellOf(editor).isValid()
-        && indexWidget(CellEditor::cellOf(editor)) == editor;
 }
 
 void EditableTableView::discardDelegates()
@@ -154,32 +117,7 @@ void EditableTableView::discardDelegates()
         if (itemDelegateForColumn(entry.key()) == entry.value()) {
             setItemDelegateForColumn(entry.key(), nullptr);
         }
-        discardDelegate(entry.value());
-    }
-}
-
-bool EditableTableView::hasEditorOfAnotherDelegate() const
-{
-    const QObjectList &children = viewport()->children();
-    return std::any_of(children.begin(), children.end(), [](const QObject *child) {
-        return child->isWidgetType() && !dynamic_cast<const CellButton *>(child)
-            && !CellEditor::isInItsColumn(child);
-    });
-}
-
-void EditableTableView::discardDelegate(QItemDelegate *delegate)
-{
-    if (CellEditor::Commit::isUnderWay(delegate)) {
-        CellEditor::Commit::whenDone(delegate, [delegate]() {
-            delegate->deleteLater();
-        });
-    } else if (hasEditorOfAnotherDelegate()) {
-        // It may be this one that is closing its editor, which another delegate commits: columns
-        // moved below it, or it was open before they were declared. It looks like any widget that
-        // an application puts into a cell.
-        delegate->deleteLater();
-    } else {
-        delete delegate;
+        OpenEditors::discard(entry.value(), *this);
     }
 }
 
@@ -192,6 +130,45 @@ void EditableTableView::declareColumn(int column, const QString &declaration)
         delegates.insert(column, delegate);
         setItemDelegateForColumn(column, delegate);
     }
+}
+
+// Sections
+
+void EditableTableView::resizeEvent(QResizeEvent *event)
+{
+    QAbstractItemView::resizeEvent(event);
+    emit resizeView();
+}
+
+void EditableTableView::resizeSection(int section, int size)
+{
+    resizing = true;
+    compat::resizeSection(horizontalHeader(), section, size);
+    resizing = false;
+}
+
+void EditableTableView::resized()
+{
+    resize(stretchSection);
+}
+
+void EditableTableView::sectionResized(int index, int, int)
+{
+    const int count = model() ? model()->columnCount() : 0;
+    resize(SectionSizing::absorberOf(*horizontalHeader(), index, count));
+}
+
+void EditableTableView::resize(int section)
+{
+    // Without a model the header may still report sections, while a model comes or goes.
+    if (resizing || !model() || horizontalHeader()->visualIndex(section) == -1) {
+        return;
+    }
+    resizing = true; // by now: to tell a size the header may carry out a resize that it put off
+    const int count = model()->columnCount();
+    const int size = SectionSizing::absorbingWidth(*horizontalHeader(), section, count);
+    compat::resizeSection(horizontalHeader(), section, size);
+    resizing = false;
 }
 
 // Buttons and binding

@@ -5,7 +5,6 @@
 #include "Export.h"
 
 #include <QMap>
-#include <QPointer>
 #include <QStringList>
 #include <QTableView>
 
@@ -130,14 +129,8 @@ private Q_SLOTS:
 
 private:
     void resize(int section);
-    int totalWidth() const;
-
     void finishEditing();
-    void finishEditor(const QPointer<QWidget> &editor);
-    bool isOpen(const QPointer<QWidget> &editor) const;
-    bool hasEditorOfAnotherDelegate() const;
     void discardDelegates();
-    void discardDelegate(QItemDelegate *delegate);
     void declareColumn(int column, const QString &declaration);
     void addButton(int column, const QModelIndex &cell);
     QStringList rowData(const QModelIndex &cell) const;
