@@ -64,6 +64,7 @@ class SectionSizingTest : public TestCase
 private Q_SLOTS:
     void theStretchSectionAbsorbsAResize_data();
     void theStretchSectionAbsorbsAResize();
+    void absorbsOneResizeAfterAnother();
     void announcesEachResizeOnce();
     void appliesANewStretchSectionAtTheNextResizeOnly();
     void theNeighbourAbsorbsADrag_data();
@@ -123,6 +124,16 @@ void SectionSizingTest::theStretchSectionAbsorbsAResize()
 
     QCOMPARE(table.header()->width(), width);
     QTEST(widths(table.view), "after");
+}
+
+void SectionSizingTest::absorbsOneResizeAfterAnother()
+{
+    Table table;
+    table.setHeaderWidth(450);
+
+    table.setHeaderWidth(500);
+
+    QCOMPARE(widths(table.view), QString("100,300,100"));
 }
 
 void SectionSizingTest::announcesEachResizeOnce()
