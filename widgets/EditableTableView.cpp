@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "EditableTableView.h"
 
+#include "ButtonFocus.h"
 #include "CellButton.h"
 #include "CheckItemDelegate.h"
 #include "ColumnDeclaration.h"
@@ -193,6 +194,21 @@ void EditableTableView::updateEditorGeometries()
         executeDelayedItemsLayout();
     }
     QTableView::updateEditorGeometries();
+}
+
+bool EditableTableView::event(QEvent *event)
+{
+    if (ButtonFocus::isTaken(*this, *event)) {
+        // All but the item view's part. NOLINTNEXTLINE(bugprone-parent-virtual-call)
+        return QAbstractScrollArea::event(event);
+    }
+    return QTableView::event(event);
+}
+
+void EditableTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const ButtonFocus::Disguise disguise(this);
+    QTableView::closeEditor(editor, hint);
 }
 
 void EditableTableView::rowsInserted(const QModelIndex &parent, int start, int end)

@@ -112,6 +112,12 @@ protected:
     /// Places the widgets in the cells, after the rows and columns.
     void updateEditorGeometries() override;
 
+    /// Leaves the current cell alone when one of the buttons takes the focus from the table.
+    bool event(QEvent *event) override;
+
+    /// Leaves the current cell alone when an editor is closed because a button takes the focus.
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+
 protected Q_SLOTS:
     /// Gives the row `start` its buttons. When a model inserts several rows at once only the first
     /// of them gets buttons; models for this view insert row by row.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "FileListTableView.h"
 
+#include "ButtonFocus.h"
 #include "CellButton.h"
 #include "QtCompat.h"
 
@@ -240,6 +241,21 @@ void FileListTableView::resizeEvent(QResizeEvent *event)
     AdjustColumnswidth();
     // On purpose not the item view's. NOLINTNEXTLINE(bugprone-parent-virtual-call)
     QWidget::resizeEvent(event);
+}
+
+bool FileListTableView::event(QEvent *event)
+{
+    if (ButtonFocus::isTaken(*this, *event)) {
+        // All but the item view's part. NOLINTNEXTLINE(bugprone-parent-virtual-call)
+        return QAbstractScrollArea::event(event);
+    }
+    return QTableView::event(event);
+}
+
+void FileListTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const ButtonFocus::Disguise disguise(this);
+    QTableView::closeEditor(editor, hint);
 }
 
 void FileListTableView::createButton(const QString &text)

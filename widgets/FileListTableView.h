@@ -69,6 +69,13 @@ Q_SIGNALS:
     /// The next page is wanted.
     void requestItems();
 
+protected:
+    /// Leaves the current cell alone when the button takes the focus from the list.
+    bool event(QEvent *event) override;
+
+    /// Leaves the current cell alone when an editor is closed because the button takes the focus.
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+
 private:
     void AddButtons();
     void RemoveButtons();

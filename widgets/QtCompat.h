@@ -24,6 +24,9 @@ const bool collapsingHoldsLayout = false;
 /// does so while it goes through them, and crashes if the layout closes one.
 const bool layoutPrecedesEditors = false;
 
+/// Whether a button that takes the focus from its table makes its cell current. In Qt 4 it does.
+const bool currentCellFollowsButtons = true;
+
 inline void setSectionsClickable(QHeaderView *header, bool clickable)
 {
     header->setClickable(clickable);
@@ -64,6 +67,9 @@ const bool collapsingHoldsLayout = true;
 
 /// Whether an item view carries out a posted layout of its items before it places its editors.
 const bool layoutPrecedesEditors = true;
+
+/// Whether a button that takes the focus from its table makes its cell current.
+const bool currentCellFollowsButtons = false;
 
 inline void setSectionsClickable(QHeaderView *header, bool clickable)
 {
