@@ -2,18 +2,31 @@
 #include "CellButton.h"
 
 #include <QEvent>
+#include <QPainter>
+#include <QPalette>
 
 namespace {
 
+// Keeps the focus of a button in its table, and shows it.
+//
 // Left alone, Qt would pass the focus of a button that scrolls out of sight on with the Tab key of
 // the table, and give it back when the button reappears in a window that was activated meanwhile.
 // Both move the current cell, and crash if a new current cell started the scrolling.
+//
+// Nor does each style show where the focus is: Fusion shows it in the bevel, which a flat button has
+// not got. So a frame goes on top of what the button paints, in the one colour that can be told from
+// the button's own with each palette.
 class FocusKeeper : public QObject
 {
 public:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        const QWidget *button = static_cast<const QWidget *>(watched);
+        QWidget *button = static_cast<QWidget *>(watched);
+        if (event->type() == QEvent::Paint && button->hasFocus()) {
+            watched->event(event);
+            drawFrame(button);
+            return true;
+        }
         if (event->type() == QEvent::Hide && button->window()->focusWidget() == button) {
             keepFocusIn(button->parentWidget());
         }
@@ -26,6 +39,13 @@ private:
         if (viewport && viewport->isVisible()) {
             viewport->setFocus();
         }
+    }
+
+    static void drawFrame(QWidget *button)
+    {
+        QPainter painter(button);
+        painter.setPen(button->palette().color(button->foregroundRole()));
+        painter.drawRect(button->rect().adjusted(1, 1, -2, -2));
     }
 };
 
