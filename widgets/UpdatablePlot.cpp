@@ -57,11 +57,15 @@ UpdatablePlot::~UpdatablePlot() = default;
 
 QString UpdatablePlot::bgColor() const
 {
-    return compat::canvasColor(*this).name();
+    const QColor none;
+    return canvas() ? compat::canvasColor(*this).name() : none.name();
 }
 
 void UpdatablePlot::setBgColor(const QString &text)
 {
+    if (!canvas()) {
+        return; // Qwt would colour it all the same
+    }
     setCanvasBackground(compat::namedColor(text));
     if (QwtPlotCanvas *own = qobject_cast<QwtPlotCanvas *>(canvas())) {
         compat::repaintCanvas(own);
@@ -80,8 +84,7 @@ void UpdatablePlot::setCurveColor(const QString &text)
     const QBrush brush(color, Qt::SolidPattern);
     curve.setBrush(brush);
     curve.setPen(QPen(brush, 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    const LabelEngine::Turn turn;
-    replot();
+    drawAnew();
 }
 
 QString UpdatablePlot::xTitle() const
@@ -123,8 +126,15 @@ void UpdatablePlot::updateData(const QVariant &val)
     setAxisScale(QwtPlot::yLeft, 0.0, static_cast<double>(maximum),
                  static_cast<double>(PlotSamples::sizeStep(maximum)));
     compat::setPoints(&curve, points);
-    const LabelEngine::Turn turn;
-    replot();
+    drawAnew();
+}
+
+void UpdatablePlot::drawAnew()
+{
+    if (canvas()) { // without one, Qwt would lay out what is not there
+        const LabelEngine::Turn turn;
+        replot();
+    }
 }
 
 void UpdatablePlot::setUpTimeAxis()

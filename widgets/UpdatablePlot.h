@@ -89,6 +89,7 @@ private:
                        const QRectF &canvasRect, int from, int to) const;
     };
 
+    void drawAnew();
     void setUpTimeAxis();
     void setUpSizeAxis();
     void installScaleDraw(int axis, QwtScaleDraw *scaleDraw);
