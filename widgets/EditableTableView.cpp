@@ -89,6 +89,10 @@ void EditableTableView::setStretchSection(int section)
 
 void EditableTableView::setModel(QAbstractItemModel *model)
 {
+    if (model && model == this->model()) {
+        // With a layout to come, the base class does not place all widgets anew for each row.
+        scheduleDelayedItemsLayout();
+    }
     QTableView::setModel(model);
     const int rowCount = model ? model->rowCount() : 0;
     for (int row = 0; row < rowCount; ++row) {

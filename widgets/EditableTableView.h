@@ -74,7 +74,8 @@ public:
     void setStretchSection(int section);
 
     /// Shows `model`, which is not owned, and gives each of its rows a button in every button
-    /// column. A null model leaves the view empty.
+    /// column. A null model leaves the view empty. The model that is already shown gets the buttons
+    /// that are missing, and nothing else changes.
     void setModel(QAbstractItemModel *model) override;
 
     /// Sets the width of one section, in pixels from 0 up, and no other: unlike a section that the
@@ -120,7 +121,8 @@ protected:
 
 protected Q_SLOTS:
     /// Gives the row `start` its buttons. When a model inserts several rows at once only the first
-    /// of them gets buttons; models for this view insert row by row.
+    /// of them gets buttons; models for this view insert row by row, or
+    /// are set again afterwards.
     void rowsInserted(const QModelIndex &parent, int start, int end) override;
 
     /// From the first removal on, Tab no longer moves between cells.
