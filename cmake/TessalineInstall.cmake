@@ -83,7 +83,8 @@ install(FILES ${TESSALINE_TRANSLATIONS} DESTINATION ${TESSALINE_DATA_DIR}/transl
     COMPONENT runtime)
 
 # The plug-in is a link to the library: as a copy, a program that links the library and loads its
-# plug-in would have everything twice.
+# plug-in would have everything twice. It goes with the library, not with what developers take:
+# programs that load forms at run time look for it too.
 if(TESSALINE_SHARED)
     set(plugin "lib${package}.so")
     file(RELATIVE_PATH library "${CMAKE_INSTALL_PREFIX}/${plugins_dir}/designer"
@@ -92,7 +93,7 @@ if(TESSALINE_SHARED)
     file(CREATE_LINK "${library}"
         "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}" SYMBOLIC)
     install(FILES "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}"
-        DESTINATION ${plugins_dir}/designer COMPONENT development)
+        DESTINATION ${plugins_dir}/designer COMPONENT runtime)
 endif()
 
 configure_file(cmake/uninstall.cmake.in uninstall.cmake @ONLY)

@@ -47,7 +47,11 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${PROJECT_SOURCE_DIR}/packaging/triggers")
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "${package_description}This package holds the library.")
+# The plug-in was in the other package at first.
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_REPLACES "${development_package} (<= 1.0.0)")
+string(CONCAT CPACK_COMPONENT_RUNTIME_DESCRIPTION "${package_description}"
+    "This package holds the library, which is the plug-in for Qt Designer and for\n"
+    "forms that are loaded at run time, too.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME ${development_package})
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
@@ -56,6 +60,5 @@ if(TESSALINE_HAS_PLOT)
     string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS ", libqwt-qt${TESSALINE_QT}-dev")
 endif()
 string(CONCAT CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "${package_description}"
-    "This package holds the headers, the files for CMake and pkg-config, and the\n"
-    "plug-in for Qt Designer.")
+    "This package holds the headers and the files for CMake and pkg-config.")
 include(CPack)
