@@ -86,6 +86,8 @@ packages_benchmarks="libbenchmark-dev libqcustomplot-dev libqt5charts5-dev valgr
 packages_checks="clang-format clang-tidy clazy python3 $packages_benchmarks"
 # For pictures of a program on a display.
 packages_pictures="xvfb xdotool imagemagick"
+# For the test that looks at widgets as a screen reader does.
+packages_reader="xvfb dbus at-spi2-core python3-gi gir1.2-atspi-2.0"
 # For the tests of the installed library and its packages.
 packages_install="pkg-config make binutils dpkg-dev file lintian"
 # For the manual.

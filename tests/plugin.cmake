@@ -12,6 +12,13 @@ target_compile_definitions(tst_plugin PRIVATE
     TESSALINE_PLUGIN_PATH="${TESSALINE_PLUGIN_PATH}"
     TESSALINE_FORM="${form}")
 
+if(TESSALINE_HAS_PLOT AND NOT TESSALINE_QT EQUAL 4) # what is left in the program is about charts
+    tessaline_add_test(tst_pluginreloading LIBRARIES TessalineTestSupport ${TESSALINE_QT_UIPLUGIN})
+    add_dependencies(tst_pluginreloading TessalineLibrary)
+    target_compile_definitions(tst_pluginreloading PRIVATE
+        TESSALINE_PLUGIN_FILE="$<TARGET_FILE:TessalineLibrary>")
+endif()
+
 set(plugin_tests tst_designerplugins tst_plugin)
 if(TESSALINE_QT_DESIGNERCOMPONENTS)
     list(APPEND plugin_tests tst_designer)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-// A chart whose canvas was taken away takes all that is said to it, and draws again when it has one.
+// A chart whose canvas was taken away takes all that is said to it, and draws again when it has
+// one.
 #include "TestCase.h"
 #include "UpdatablePlot.h"
 #include "ViewHelpers.h"
@@ -26,9 +27,12 @@ void PlotWithoutCanvasTest::takesItsProperties_data()
     QTest::addColumn<QString>("property");
     QTest::addColumn<QString>("value");
 
-    QTest::newRow("color of the curve") << "curveColor" << "#4682b4";
-    QTest::newRow("title of the time axis") << "xTitle" << "Time";
-    QTest::newRow("title of the size axis") << "yTitle" << "Bytes";
+    QTest::newRow("color of the curve") << "curveColor"
+                                        << "#4682b4";
+    QTest::newRow("title of the time axis") << "xTitle"
+                                            << "Time";
+    QTest::newRow("title of the size axis") << "yTitle"
+                                            << "Bytes";
 }
 
 void PlotWithoutCanvasTest::takesItsProperties()

@@ -13,9 +13,9 @@ namespace {
 // the table, and give it back when the button reappears in a window that was activated meanwhile.
 // Both move the current cell, and crash if a new current cell started the scrolling.
 //
-// Nor does each style show where the focus is: Fusion shows it in the bevel, which a flat button has
-// not got. So a frame goes on top of what the button paints, in the one colour that can be told from
-// the button's own with each palette.
+// Nor does each style show where the focus is: Fusion shows it in the bevel, which a flat button
+// has not got. So a frame goes on top of what the button paints, in the one colour that can be told
+// from the button's own with each palette.
 class FocusKeeper : public QObject
 {
 public:

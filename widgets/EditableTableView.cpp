@@ -12,6 +12,7 @@
 #include "SectionSizing.h"
 
 #include <QAbstractItemDelegate>
+#include <QAbstractScrollArea>
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QItemDelegate>

@@ -5,6 +5,8 @@
 #include "CellButton.h"
 #include "QtCompat.h"
 
+#include <QAbstractItemDelegate>
+#include <QAbstractScrollArea>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QHeaderView>

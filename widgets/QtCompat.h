@@ -12,6 +12,11 @@
 #include <QString>
 #include <QVariant>
 
+/// Whether an accessibility interface can tell a value.
+#if QT_VERSION >= 0x050000 && !defined(QT_NO_ACCESSIBILITY)
+#define TESSALINE_HAS_ACCESSIBLE_VALUES
+#endif
+
 /// What Qt 4, 5 and 6 call or do differently, so that no other source needs to ask which Qt it has.
 namespace compat {
 

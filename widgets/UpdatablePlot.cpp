@@ -2,6 +2,7 @@
 #include "UpdatablePlot.h"
 
 #include "ByteSizeScaleDraw.h"
+#include "ChartAccessibility.h"
 #include "LabelEngine.h"
 #include "PlotClock.h"
 #include "PlotSamples.h"
@@ -42,7 +43,9 @@ UpdatablePlot::UpdatablePlot(QWidget *parent)
     : QwtPlot(parent)
     , sizeScaleDraw(nullptr)
     , timeScaleDraw(nullptr)
+    , latest(0)
 {
+    ChartAccessibility::install();
     const LabelEngine::Turn turn;
     setAutoReplot(false);
     plotLayout()->setAlignCanvasToScales(true);
@@ -117,6 +120,7 @@ void UpdatablePlot::updateData(const QVariant &val)
     const int now
         = PlotSamples::secondsSince(PlotClock::startTimeUtc, PlotClock::currentDateTime());
     samples.insert(now, sample);
+    latest = sample;
     PlotSamples::prune(&samples, now);
     PlotSamples::follow(&points, samples, now);
 
@@ -127,6 +131,7 @@ void UpdatablePlot::updateData(const QVariant &val)
                  static_cast<double>(PlotSamples::sizeStep(maximum)));
     compat::setPoints(&curve, points);
     drawAnew();
+    ChartAccessibility::announceValue(this, sample);
 }
 
 void UpdatablePlot::drawAnew()

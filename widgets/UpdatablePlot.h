@@ -89,6 +89,8 @@ private:
                        const QRectF &canvasRect, int from, int to) const;
     };
 
+    friend class ChartInterface; ///< Tells screen readers the samples.
+
     void drawAnew();
     void setUpTimeAxis();
     void setUpSizeAxis();
@@ -99,6 +101,7 @@ private:
     TimeScaleDraw *timeScaleDraw; ///< Owned by the axis.
     Curve curve;
     QMap<int, qint64> samples; ///< By seconds since PlotClock::startTime.
+    qint64 latest; ///< The last sample that came, whatever the clock did since.
     QPolygonF points; ///< The samples, side by side in memory, as the curve takes them.
 };
 

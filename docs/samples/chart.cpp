@@ -15,6 +15,10 @@ void feed(UpdatablePlot *chart)
     chart->setXTitle(QObject::tr("Time"));
     chart->setYTitle(QObject::tr("Copied a second"));
     //! [colours]
+    //! [names]
+    chart->setAccessibleName(QObject::tr("Throughput"));
+    chart->setAccessibleDescription(QObject::tr("Bytes copied in each second"));
+    //! [names]
     //! [feed]
     chart->updateData(2048);
     chart->updateData(qint64(5) << 30);

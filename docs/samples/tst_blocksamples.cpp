@@ -92,8 +92,7 @@ void BlockSamplesTest::keepsAnOpenEditorAndTheCurrentCell()
 {
     FilteredTable table;
     samples::showJobsWith("a", &table.shown, &table.view);
-    QLineEdit *editor
-        = qobject_cast<QLineEdit *>(openEditor(&table.view, table.shown.index(1, 0)));
+    QLineEdit *editor = qobject_cast<QLineEdit *>(openEditor(&table.view, table.shown.index(1, 0)));
     QTest::keyClicks(editor, "typed");
 
     samples::showJobsWith("", &table.shown, &table.view);
