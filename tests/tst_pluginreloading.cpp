@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QDesignerCustomWidgetCollectionInterface>
+#include <QLibrary>
 #include <QPluginLoader>
 #include <QScopedPointer>
 #include <QSpinBox>
@@ -12,6 +13,7 @@ namespace {
 
 QWidget *make(QPluginLoader *plugin, const QString &name)
 {
+    plugin->setLoadHints(QLibrary::LoadHints()); // by itself Qt keeps the code of plug-ins
     const QDesignerCustomWidgetCollectionInterface *collection
         = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(plugin->instance());
     const QList<QDesignerCustomWidgetInterface *> widgets = collection->customWidgets();

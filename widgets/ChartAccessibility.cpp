@@ -12,6 +12,8 @@
 #include <qwt_text.h>
 
 #include <QAccessible>
+#include <QAccessibleValueChangeEvent>
+#include <QAccessibleValueInterface>
 #include <QAccessibleWidget>
 #include <QVariant>
 

@@ -121,8 +121,7 @@ protected:
 
 protected Q_SLOTS:
     /// Gives the row `start` its buttons. When a model inserts several rows at once only the first
-    /// of them gets buttons; models for this view insert row by row, or
-    /// are set again afterwards.
+    /// of them gets buttons; models for this view insert row by row, or are set again afterwards.
     void rowsInserted(const QModelIndex &parent, int start, int end) override;
 
     /// From the first removal on, Tab no longer moves between cells.
