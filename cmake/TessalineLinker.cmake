@@ -4,12 +4,13 @@
 
 include(CheckCXXSourceCompiles)
 
-# Linkers that do not know the option refuse it or, like that of Visual C++, warn and go on.
-set(_tessaline_required "${CMAKE_REQUIRED_LINK_OPTIONS}")
-list(APPEND CMAKE_REQUIRED_LINK_OPTIONS -Wl,--no-undefined)
-check_cxx_source_compiles("int main() { return 0; }" TESSALINE_LINKER_HAS_NO_UNDEFINED
-    FAIL_REGEX "[Uu]nrecogni[sz]ed|[Uu]nknown|[Ii]gnor|LNK4044")
-set(CMAKE_REQUIRED_LINK_OPTIONS "${_tessaline_required}")
+# Linkers that do not know the option refuse it; that of Visual C++ just warns, and needs none.
+if(NOT MSVC)
+    set(_tessaline_required "${CMAKE_REQUIRED_LINK_OPTIONS}")
+    list(APPEND CMAKE_REQUIRED_LINK_OPTIONS -Wl,--no-undefined)
+    check_cxx_source_compiles("int main() { return 0; }" TESSALINE_LINKER_HAS_NO_UNDEFINED)
+    set(CMAKE_REQUIRED_LINK_OPTIONS "${_tessaline_required}")
+endif()
 
 function(tessaline_refuse_undefined target)
     if(TESSALINE_LINKER_HAS_NO_UNDEFINED)

@@ -88,5 +88,7 @@ packages_checks="clang-format clang-tidy clazy python3 $packages_benchmarks"
 packages_pictures="xvfb xdotool imagemagick"
 # For the tests of the installed library and its packages.
 packages_install="pkg-config make binutils dpkg-dev file lintian"
+# For Windows, in scripts/windows.
+packages_windows="g++-mingw-w64-x86-64-posix wine64 dpkg-dev make perl"
 # For the manual.
 packages_docs="doxygen qhelpgenerator-qt5"
