@@ -25,12 +25,19 @@ endforeach()
 
 find_library(QWT_LIBRARY NAMES ${_qwt_names} NAMES_PER_DIR)
 find_path(QWT_INCLUDE_DIR NAMES qwt_global.h
+    HINTS "${QWT_LIBRARY}/Headers" # of a framework
     PATH_SUFFIXES qt${Qwt_QT_MAJOR}/qwt6 qt${Qwt_QT_MAJOR}/qwt ${_qwt_folders} qwt6)
+
+# A framework of macOS is a folder with the library in it.
+set(_qwt_file "${QWT_LIBRARY}")
+if(QWT_LIBRARY MATCHES "/([^/]+)[.]framework$")
+    set(_qwt_file "${QWT_LIBRARY}/${CMAKE_MATCH_1}")
+endif()
 
 # Whatever it is called, it tells by what it links itself, unless it is a static one.
 set(QWT_LIBRARY_IS_FOR_THIS_QT TRUE)
-if(EXISTS "${QWT_LIBRARY}")
-    file(STRINGS "${QWT_LIBRARY}" _qwt_links REGEX "libQt[56]?Core[.]so")
+if(EXISTS "${_qwt_file}")
+    file(STRINGS "${_qwt_file}" _qwt_links REGEX "libQt[56]?Core[.]so")
     string(REPLACE "Qt4" "Qt" _qwt_core "libQt${Qwt_QT_MAJOR}Core")
     if(_qwt_links AND NOT _qwt_links MATCHES "${_qwt_core}[.]so")
         set(QWT_LIBRARY_IS_FOR_THIS_QT FALSE)
@@ -52,6 +59,13 @@ mark_as_advanced(QWT_LIBRARY QWT_INCLUDE_DIR)
 if(Qwt_FOUND AND NOT TARGET Qwt::Qwt)
     add_library(Qwt::Qwt UNKNOWN IMPORTED)
     set_target_properties(Qwt::Qwt PROPERTIES
-        IMPORTED_LOCATION "${QWT_LIBRARY}"
+        IMPORTED_LOCATION "${_qwt_file}"
         INTERFACE_INCLUDE_DIRECTORIES "${QWT_INCLUDE_DIR}")
+    if(WIN32)
+        # What is linked for a DLL names it. Qwt's headers have to be told of one.
+        file(STRINGS "${QWT_LIBRARY}" _qwt_dll REGEX "[Qq]wt[^/]*[.][Dd][Ll][Ll]" LIMIT_COUNT 1)
+        if(_qwt_dll)
+            set_target_properties(Qwt::Qwt PROPERTIES INTERFACE_COMPILE_DEFINITIONS QWT_DLL)
+        endif()
+    endif()
 endif()

@@ -16,6 +16,8 @@ set(plugins_dir "${TESSALINE_PLUGINS_DIR}")
 string(FIND "${TESSALINE_QT_PLUGINS}/" "${CMAKE_INSTALL_PREFIX}/" place)
 if(NOT plugins_dir AND CMAKE_INSTALL_PREFIX STREQUAL TESSALINE_QT_PREFIX AND place EQUAL 0)
     file(RELATIVE_PATH plugins_dir "${CMAKE_INSTALL_PREFIX}" "${TESSALINE_QT_PLUGINS}")
+elseif(NOT plugins_dir AND WIN32)
+    set(plugins_dir plugins) # so that what is installed can be unpacked over a Qt
 elseif(NOT plugins_dir)
     set(plugins_dir ${CMAKE_INSTALL_LIBDIR}/qt${TESSALINE_QT}/plugins)
 endif()
@@ -35,6 +37,7 @@ if(TARGET TessalinePlot)
     list(APPEND targets TessalinePlot)
 endif()
 install(TARGETS ${targets} EXPORT ${package}Targets
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
 install(EXPORT ${package}Targets NAMESPACE Tessaline:: DESTINATION ${config_dir}
@@ -67,10 +70,17 @@ if(TESSALINE_HAS_PLOT)
     get_filename_component(qwt_name "${QWT_LIBRARY}" NAME_WE)
     string(REGEX REPLACE "^lib" "" qwt_name "${qwt_name}")
     string(APPEND pc_cflags " -DTESSALINE_HAS_PLOT -I\"${QWT_INCLUDE_DIR}\"")
+    get_target_property(qwt_definition Qwt::Qwt INTERFACE_COMPILE_DEFINITIONS)
+    if(qwt_definition)
+        string(APPEND pc_cflags " -D${qwt_definition}")
+    endif()
     if(TARGET TessalinePlot)
         set(pc_plot " -lTessalinePlot${TESSALINE_QT_SUFFIX}")
     endif()
     set(pc_libs " -L\"${qwt_dir}\" -l${qwt_name}")
+    if(QWT_LIBRARY MATCHES "[.]framework$")
+        set(pc_libs " -F\"${qwt_dir}\" -framework ${qwt_name}")
+    endif()
 endif()
 configure_file(cmake/Tessaline.pc.in ${package}.pc @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${package}.pc"
@@ -83,17 +93,24 @@ install(FILES ${TESSALINE_TRANSLATIONS} DESTINATION ${TESSALINE_DATA_DIR}/transl
     COMPONENT runtime)
 
 # The plug-in is a link to the library: as a copy, a program that links the library and loads its
-# plug-in would have everything twice. It goes with the library, not with what developers take:
-# programs that load forms at run time look for it too.
-if(TESSALINE_SHARED)
-    set(plugin "lib${package}.so")
-    file(RELATIVE_PATH library "${CMAKE_INSTALL_PREFIX}/${plugins_dir}/designer"
-        "${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/${plugin}.${PROJECT_VERSION_MAJOR}")
-    file(MAKE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin")
-    file(CREATE_LINK "${library}"
-        "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}" SYMBOLIC)
-    install(FILES "${CMAKE_CURRENT_BINARY_DIR}/installed-plugin/${plugin}"
+# plug-in would have everything twice. On Windows it is one, and the manual tells what to do.
+# It goes with the library, not with what developers take: programs that load forms at run time look
+# for it too.
+if(TESSALINE_SHARED AND WIN32)
+    install(FILES "$<TARGET_FILE:TessalineLibrary>"
         DESTINATION ${plugins_dir}/designer COMPONENT runtime)
+elseif(TESSALINE_SHARED)
+    file(RELATIVE_PATH library_dir "${CMAKE_INSTALL_PREFIX}/${plugins_dir}/designer"
+        "${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}")
+    string(REGEX REPLACE "/$" "" library_dir "${library_dir}")
+    set(plugin
+        "${PROJECT_BINARY_DIR}/installed-plugin/$<TARGET_LINKER_FILE_NAME:TessalineLibrary>")
+    file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/installed-plugin")
+    add_custom_command(TARGET TessalineLibrary POST_BUILD
+        COMMAND ${CMAKE_COMMAND} -E create_symlink
+            "${library_dir}/$<TARGET_SONAME_FILE_NAME:TessalineLibrary>" "${plugin}"
+        VERBATIM)
+    install(FILES "${plugin}" DESTINATION ${plugins_dir}/designer COMPONENT runtime)
 endif()
 
 configure_file(cmake/uninstall.cmake.in uninstall.cmake @ONLY)

@@ -2,7 +2,8 @@
 # Debian packages: "cpack" in the build folder makes one of the library and one for developers.
 # Configure with -DCMAKE_INSTALL_PREFIX=/usr, or Designer does not find the plug-in by itself.
 
-if(NOT tessaline_is_top_level OR NOT TESSALINE_SHARED OR TESSALINE_QT EQUAL 4)
+if(NOT tessaline_is_top_level OR NOT TESSALINE_SHARED OR TESSALINE_QT EQUAL 4
+        OR NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
     return()
 endif()
 

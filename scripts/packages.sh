@@ -90,5 +90,7 @@ packages_pictures="xvfb xdotool imagemagick"
 packages_reader="xvfb dbus at-spi2-core python3-gi gir1.2-atspi-2.0"
 # For the tests of the installed library and its packages.
 packages_install="pkg-config make binutils dpkg-dev file lintian"
+# For Windows, in scripts/windows.
+packages_windows="g++-mingw-w64-x86-64-posix wine64 dpkg-dev make perl"
 # For the manual.
 packages_docs="doxygen qhelpgenerator-qt5"

@@ -6,11 +6,10 @@ tessaline_add_test(tst_designerplugins LIBRARIES TessalineTestSupport TessalineW
 target_include_directories(tst_designerplugins PRIVATE ${PROJECT_SOURCE_DIR}/designer)
 
 tessaline_add_test(tst_plugin LIBRARIES TessalineTestSupport TessalineLibrary
-    ${TESSALINE_QT_UIPLUGIN} ${TESSALINE_QT_UITOOLS})
+    ${TESSALINE_QT_UIPLUGIN})
 target_compile_definitions(tst_plugin PRIVATE
     TESSALINE_PLUGIN_FILE="$<TARGET_FILE:TessalineLibrary>"
-    TESSALINE_PLUGIN_PATH="${TESSALINE_PLUGIN_PATH}"
-    TESSALINE_FORM="${form}")
+    TESSALINE_DESIGNER_FILE="${TESSALINE_DESIGNER_FILE}")
 
 if(TESSALINE_HAS_PLOT AND NOT TESSALINE_QT EQUAL 4) # what is left in the program is about charts
     tessaline_add_test(tst_pluginreloading LIBRARIES TessalineTestSupport ${TESSALINE_QT_UIPLUGIN})
@@ -20,6 +19,14 @@ if(TESSALINE_HAS_PLOT AND NOT TESSALINE_QT EQUAL 4) # what is left in the progra
 endif()
 
 set(plugin_tests tst_designerplugins tst_plugin)
+if(TESSALINE_QT_UITOOLS)
+    list(APPEND plugin_tests tst_loadedforms)
+    tessaline_add_test(tst_loadedforms LIBRARIES TessalineTestSupport TessalineLibrary
+        ${TESSALINE_QT_UITOOLS})
+    target_compile_definitions(tst_loadedforms PRIVATE
+        TESSALINE_PLUGIN_FOLDER="${TESSALINE_PLUGIN_FOLDER}"
+        TESSALINE_FORM="${form}")
+endif()
 if(TESSALINE_QT_DESIGNERCOMPONENTS)
     list(APPEND plugin_tests tst_designer)
     tessaline_add_test(tst_designer LIBRARIES TessalineTestSupport

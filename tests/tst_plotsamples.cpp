@@ -5,7 +5,6 @@
 #include <QDateTime>
 #include <QVariant>
 
-#include <cstdlib>
 #include <ctime>
 #include <limits>
 
@@ -48,7 +47,7 @@ public:
     ~TimeZone()
     {
         if (previous.isNull()) {
-            ::unsetenv("TZ");
+            compat::unsetVariable("TZ");
         } else {
             qputenv("TZ", previous);
         }

@@ -79,7 +79,7 @@ void ChartSamplesTest::feedsAChart()
 void ChartSamplesTest::feedsTheChartOfAForm()
 {
     QUiLoader loader;
-    loader.addPluginPath(TESSALINE_PLUGIN_PATH "/designer");
+    loader.addPluginPath(TESSALINE_PLUGIN_FOLDER);
     QFile file(SAMPLE_FORM);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const std::unique_ptr<QWidget> form(loader.load(&file));

@@ -21,6 +21,8 @@
 #include <QWidget>
 #include <QtTest>
 
+#include <cstdlib>
+
 /// What the tests need of Qt Test and QtCore that Qt 4, 5 and 6 call differently.
 
 typedef void (*MessageReceiver)(QtMsgType type, const QString &message);
@@ -79,6 +81,11 @@ inline QByteArray methodName(const QMetaMethod &method)
 {
     const QByteArray signature = method.signature();
     return signature.left(signature.indexOf('('));
+}
+
+inline void unsetVariable(const char *name)
+{
+    ::unsetenv(name);
 }
 
 inline void waitUntilShown(QWidget *window)
@@ -192,6 +199,11 @@ inline QByteArray methodSignature(const QMetaMethod &method)
 inline QByteArray methodName(const QMetaMethod &method)
 {
     return method.name();
+}
+
+inline void unsetVariable(const char *name)
+{
+    qunsetenv(name);
 }
 
 inline void waitUntilShown(QWidget *window)
