@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "Restic.h"
+
+#include "JobStore.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSettings>
+
+QString Restic::program()
+{
+    const QSettings settings(JobStore::defaultFilePath(), QSettings::IniFormat);
+    return settings.value(QStringLiteral("restic"), QStringLiteral("restic")).toString();
+}
+
+QVersionNumber Restic::minimumVersion()
+{
+    return QVersionNumber(0, 14);
+}
+
+QVersionNumber Restic::versionIn(const QString &output)
+{
+    const QRegularExpression pattern(QStringLiteral("^restic ([0-9.]+)"));
+    return QVersionNumber::fromString(pattern.match(output).captured(1));
+}
+
+QProcessEnvironment Restic::environment(const QString &repository)
+{
+    QProcessEnvironment result = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"RESTIC_PASSWORD", "RESTIC_PASSWORD_FILE", "RESTIC_PASSWORD_COMMAND",
+                             "RESTIC_REPOSITORY_FILE"}) {
+        result.remove(QLatin1String(name));
+    }
+    // Not as an argument: all users see those, and an address may have a server's password in it.
+    result.insert(QStringLiteral("RESTIC_REPOSITORY"), address(repository));
+    result.insert(QStringLiteral("RESTIC_PROGRESS_FPS"), QStringLiteral("4"));
+    return result;
+}
+
+QString Restic::address(const QString &typed)
+{
+    const QString text = typed.trimmed();
+    const bool isAtHome = text == QLatin1String("~") || text.startsWith(QLatin1String("~/"));
+    return isAtHome ? QDir::homePath() + text.mid(1) : text;
+}
+
+QString Restic::sourcePath(const QString &typed)
+{
+    const QFileInfo source(address(typed));
+    return source.exists() ? source.canonicalFilePath() : source.absoluteFilePath();
+}

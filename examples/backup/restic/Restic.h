@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#ifndef RESTIC_H
+#define RESTIC_H
+
+#include <QProcessEnvironment>
+#include <QString>
+#include <QVersionNumber>
+
+/// The program that does the work: where it is, and how it is spoken to.
+namespace Restic {
+
+/// What the setting "restic" in the file of the jobs says, else the one in PATH.
+QString program();
+
+/// Older ones have not been tried.
+QVersionNumber minimumVersion();
+/// From what "restic version" prints; null if that makes no sense.
+QVersionNumber versionIn(const QString &output);
+
+/// This process's environment, without what would beat the password from the standard input.
+QProcessEnvironment environment(const QString &repository);
+
+/// What the user typed, with "~" for the home folder.
+QString address(const QString &typed);
+/// An absolute path without links, which restic would store in place of what they lead to.
+QString sourcePath(const QString &typed);
+
+} // namespace Restic
+
+#endif

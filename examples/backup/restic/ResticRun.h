@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#ifndef RESTICRUN_H
+#define RESTICRUN_H
+
+#include "LineSplitter.h"
+#include "Outcome.h"
+
+#include <QJsonDocument>
+#include <QObject>
+#include <QProcess>
+
+/// One run of restic at a time: the password goes to its standard input, messages come from its
+/// standard output. The program's version is looked at first.
+class ResticRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ResticRun(QObject *parent = nullptr);
+    /// Kills what is still running.
+    ~ResticRun() override;
+
+    /// Writes the standard output into a file instead of announcing it, for long lists.
+    void setOutputFile(const QString &path);
+
+    /// finished() always follows, and never from within this call. Nothing happens if a run is
+    /// under way. With "--json" among the arguments what is no JSON is counted, else it is
+    /// announced.
+    void start(const QString &repository, const QString &password, const QStringList &arguments);
+    bool isRunning() const;
+
+public slots:
+    /// Asks restic to end, and kills it if it does not.
+    void cancel();
+
+signals:
+    /// An object or an array: one line.
+    void message(const QJsonDocument &message);
+    /// A line that is no JSON, where none was asked for.
+    void textLine(const QString &line);
+    /// A file that could not be read; the run goes on.
+    void problemFound(const QString &text);
+    void finished(const Outcome &outcome);
+
+private:
+    void askVersion();
+    void work();
+    void launch(const QStringList &arguments);
+    void readOutput();
+    void readLine(const QByteArray &line);
+    void readErrors();
+    void readErrorLine(const QByteArray &line);
+    void end();
+    void endVersion();
+    void finish(const Outcome &outcome);
+    Outcome exitOutcome();
+
+    QProcess *m_process = nullptr;
+    QString m_program;
+    QString m_repository;
+    QString m_password;
+    QStringList m_arguments;
+    QString m_outputFile;
+    LineSplitter m_output;
+    LineSplitter m_errors;
+    QStringList m_lastErrors;
+    int m_skippedLines = 0;
+    bool m_isRunning = false;
+    bool m_asksVersion = false;
+    bool m_isCancelled = false;
+};
+
+#endif
