@@ -2,13 +2,10 @@
 #include "BackupRun.h"
 
 #include "Restic.h"
-#include "SizeText.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonObject>
-#include <QLocale>
 #include <QRegularExpression>
 #include <QTimer>
 
@@ -168,22 +165,11 @@ void BackupRun::readMessage(const QJsonDocument &message)
     const QJsonObject object = message.object();
     const QString type = object.value(QStringLiteral("message_type")).toString();
     if (type == QLatin1String("status")) {
-        readStatus(object);
+        m_progress.read(object);
+        emit progressChanged(m_progress);
     } else if (type == QLatin1String("summary")) {
         readSummary(object);
     }
-}
-
-void BackupRun::readStatus(const QJsonObject &status)
-{
-    m_progress.fraction = status.value(QStringLiteral("percent_done")).toDouble();
-    m_progress.bytesDone = number(status, "bytes_done");
-    m_progress.bytesTotal = number(status, "total_bytes");
-    m_progress.filesDone = number(status, "files_done");
-    m_progress.filesTotal = number(status, "total_files");
-    m_progress.currentFile
-        = status.value(QStringLiteral("current_files")).toArray().first().toString();
-    emit progressChanged(m_progress);
 }
 
 void BackupRun::readSummary(const QJsonObject &summary)
@@ -294,23 +280,4 @@ void BackupRun::finish()
     m_step = Nothing;
     m_job.password.clear();
     emit finished(m_outcome);
-}
-
-QString BackupProgress::text() const
-{
-    const QLocale locale;
-    const QString percent = fraction < 0 ? QString() : locale.toString(int(fraction * 100));
-    switch (phase) {
-    case BackingUp:
-        return tr("Backing up: %1 of %2 files, %3 of %4  %5")
-            .arg(locale.toString(filesDone), locale.toString(filesTotal), sizeText(bytesDone),
-                 sizeText(bytesTotal), currentFile);
-    case Verifying:
-        return percent.isEmpty() ? tr("Verifying") : tr("Verifying: %1 %").arg(percent);
-    case Restoring:
-        return percent.isEmpty() ? tr("Restoring") : tr("Restoring: %1 %").arg(percent);
-    case Preparing:
-        break;
-    }
-    return tr("Preparing");
 }

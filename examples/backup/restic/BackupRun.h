@@ -3,29 +3,8 @@
 #define BACKUPRUN_H
 
 #include "BackupJob.h"
+#include "BackupProgress.h"
 #include "ResticRun.h"
-
-/// How far a run has come. A plain value.
-struct BackupProgress
-{
-    Q_DECLARE_TR_FUNCTIONS(BackupProgress)
-
-public:
-    enum Phase { Preparing, BackingUp, Verifying, Restoring };
-
-    Phase phase = Preparing;
-    /// Of 0 to 1; less than 0 while unknown.
-    double fraction = -1;
-    /// The totals grow while restic still looks for files. Zero but for a backup.
-    qint64 bytesDone = 0;
-    qint64 bytesTotal = 0;
-    qint64 filesDone = 0;
-    qint64 filesTotal = 0;
-    QString currentFile;
-
-    /// One line, with the current file at its end.
-    QString text() const;
-};
 
 /// A backup and its verifying, or a restore: one run of restic after the other, and what goes
 /// between them. One at a time.
@@ -77,7 +56,6 @@ private:
     QStringList backUpArguments() const;
     static BackupProgress::Phase phaseOf(Step step);
     void readMessage(const QJsonDocument &message);
-    void readStatus(const QJsonObject &status);
     void readSummary(const QJsonObject &summary);
     void readText(const QString &line);
     void endStep(const Outcome &outcome);

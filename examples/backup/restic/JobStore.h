@@ -5,16 +5,14 @@
 #include "BackupJob.h"
 
 #include <QList>
-#include <QString>
 
-/// Keeps the jobs in an INI file: a group [jobs] with one numbered subgroup for each job.
-/// Passwords are not kept.
+/// Keeps the jobs, without their passwords, in an INI file: an array [jobs]. The file may also have
+/// a line "restic=/path/of/the/program" at its top.
 class JobStore
 {
 public:
     /// The file is created, with its folder, by the first save().
     explicit JobStore(const QString &filePath = defaultFilePath());
-
     /// In the user's configuration folder.
     static QString defaultFilePath();
 

@@ -6,73 +6,41 @@
 #include "SizeText.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 
 namespace {
 
-bool hasOneOf(const QString &text, const QStringList &parts)
+// Versions before 0.17 end with 1 whatever happens, so their words are looked at too. A repository
+// that cannot be reached is not a missing one: nobody should be asked to make it.
+const struct
 {
-    for (const QString &part : parts) {
-        if (text.contains(part, Qt::CaseInsensitive)) {
-            return true;
-        }
-    }
-    return false;
-}
-
-// A repository that cannot be reached is not a missing one: nobody should be asked to make it.
-bool isMissingRepository(const QString &errors)
-{
-    return errors.contains(QLatin1String("Is there a repository at the following location"))
-        && hasOneOf(errors,
-                    {QStringLiteral("no such file"), QStringLiteral("not exist"),
-                     QStringLiteral("cannot find the")});
-}
-
-Outcome::Kind kindOf(int exitStatus, const QString &errors)
-{
-    if (exitStatus == 0) {
-        return Outcome::Done;
-    }
-    if (exitStatus == 3) {
-        return Outcome::Incomplete;
-    }
-    if (exitStatus == 12 || errors.contains(QLatin1String("wrong password or no key found"))) {
-        return Outcome::WrongPassword;
-    }
-    if (exitStatus == 11 || errors.contains(QLatin1String("repository is already locked"))) {
-        return Outcome::Locked;
-    }
-    if (exitStatus == 10 || isMissingRepository(errors)) {
-        return Outcome::NoRepository;
-    }
-    if (hasOneOf(errors,
-                 {QStringLiteral("no space left"), QStringLiteral("not enough space"),
-                  QStringLiteral("quota exceeded")})) {
-        return Outcome::NoSpace;
-    }
-    if (errors.contains(QLatin1String("directories/files do not exist"))) {
-        return Outcome::NoSource;
-    }
-    return errors.contains(QLatin1String("repository contains errors")) ? Outcome::Damaged
-                                                                        : Outcome::Failed;
-}
-
-QString numberText(qint64 number)
-{
-    return QLocale().toString(number);
-}
+    Outcome::Kind kind;
+    int exitStatus;
+    const char *pattern;
+} signs[] = {
+    {Outcome::WrongPassword, 12, "wrong password or no key found"},
+    {Outcome::NoPassword, -1, "empty password is not"},
+    {Outcome::Locked, 11, "repository is already locked"},
+    {Outcome::NoRepository, 10, "open config file: .*(no such file|not exist|cannot find)"},
+    {Outcome::NoSpace, -1, "no space left|not enough space|quota exceeded"},
+    {Outcome::NoSource, -1, "directories/files do not exist"},
+    {Outcome::Damaged, -1, "repository contains errors"},
+    {Outcome::Incomplete, 3, "at least one source file could not be read"},
+};
 
 QString successText(const Outcome &outcome)
 {
+    const QLocale locale;
     QString text;
     if (!outcome.restoredInto.isEmpty()) {
         text = Outcome::tr("Restored below %1.").arg(outcome.restoredInto);
     } else if (!outcome.snapshot.isEmpty()) {
         text
             = Outcome::tr("Snapshot %1: %2 new, %3 changed, %4 unchanged files; %5 read, %6 added.")
-                  .arg(outcome.snapshot.left(8), numberText(outcome.newFiles),
-                       numberText(outcome.changedFiles), numberText(outcome.unchangedFiles),
-                       sizeText(outcome.bytesRead), sizeText(outcome.bytesAdded));
+                  .arg(outcome.snapshot.left(8), locale.toString(outcome.newFiles),
+                       locale.toString(outcome.changedFiles),
+                       locale.toString(outcome.unchangedFiles), sizeText(outcome.bytesRead),
+                       sizeText(outcome.bytesAdded));
     }
     if (outcome.wasVerified) {
         text += QLatin1Char(' ') + Outcome::tr("All of the repository was read back: no errors.");
@@ -80,11 +48,11 @@ QString successText(const Outcome &outcome)
     return text.trimmed();
 }
 
-QString kindText(const Outcome &outcome)
+QString failureText(const Outcome &outcome)
 {
     switch (outcome.kind) {
     case Outcome::Done:
-        return successText(outcome);
+        return QString();
     case Outcome::Incomplete:
         return Outcome::tr("Some files could not be read; all others are backed up.");
     case Outcome::Cancelled:
@@ -94,14 +62,14 @@ QString kindText(const Outcome &outcome)
                            "program is: restic=/path/of/restic at the top of %1.")
             .arg(JobStore::defaultFilePath());
     case Outcome::TooOld:
-        return Outcome::tr("This restic is too old (%1). Install version %2 or newer of the "
-                           "package \"restic\".")
+        return Outcome::tr("This restic is too old: %1. Install version %2 or newer of the package "
+                           "\"restic\".")
             .arg(outcome.details, Restic::minimumVersion().toString());
+    case Outcome::NoPassword:
+        return Outcome::tr("A repository needs a password. Nothing was done.");
     case Outcome::WrongPassword:
         return Outcome::tr("This is not the repository's password. Nothing was changed; type it "
                            "again.");
-    case Outcome::NoPassword:
-        return Outcome::tr("A repository needs a password. Nothing was done.");
     case Outcome::NoRepository:
         return Outcome::tr("There is no repository at this address. Is its disk connected?");
     case Outcome::Locked:
@@ -114,7 +82,7 @@ QString kindText(const Outcome &outcome)
         return Outcome::tr("The source is not there. Is its disk connected?");
     case Outcome::NotEmpty:
         return Outcome::tr("The folder to restore into is not empty, so nothing was restored. "
-                           "Choose an empty one or a new one.");
+                           "Choose an empty or a new one.");
     case Outcome::Damaged:
         return Outcome::tr("The repository is damaged. Save what its disk still gives, and see "
                            "\"restic repair\" in restic's manual.");
@@ -124,29 +92,32 @@ QString kindText(const Outcome &outcome)
     case Outcome::Failed:
         break;
     }
-    return Outcome::tr("restic failed: %1")
-        .arg(outcome.details.section(QLatin1Char('\n'), -1).remove(QStringLiteral("Fatal: ")));
+    const QString reason = outcome.details.section(QLatin1String("Fatal: "), -1);
+    return Outcome::tr("restic failed: %1").arg(reason.section(QLatin1Char('\n'), 0, 0));
 }
 
 } // namespace
 
-Outcome Outcome::ofExit(int exitStatus, const QStringList &errors)
-{
-    Outcome outcome;
-    outcome.details = errors.join(QLatin1Char('\n'));
-    outcome.kind = kindOf(exitStatus, outcome.details);
-    return outcome;
-}
-
 QString Outcome::text() const
 {
-    QString text = kindText(*this);
-    if (!isGood() && !successText(*this).isEmpty()) {
-        text += QLatin1Char(' ') + successText(*this);
-    }
+    QStringList sentences = {failureText(*this), successText(*this)};
     if (skippedLines > 0) {
-        text += QLatin1Char(' ')
-            + tr("%n line(s) of restic's could not be read.", nullptr, skippedLines);
+        sentences += tr("%n line(s) of restic's made no sense.", nullptr, skippedLines);
     }
-    return text;
+    sentences.removeAll(QString());
+    return sentences.join(QLatin1Char(' '));
+}
+
+Outcome::Kind Outcome::kindOf(int exitStatus, const QString &errors)
+{
+    if (exitStatus == 0) {
+        return Done;
+    }
+    for (const auto &sign : signs) {
+        const QRegularExpression pattern(QLatin1String(sign.pattern));
+        if (exitStatus == sign.exitStatus || errors.contains(pattern)) {
+            return sign.kind;
+        }
+    }
+    return Failed;
 }

@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QMetaType>
 #include <QString>
-#include <QStringList>
 
 /// How a run of restic, or a chain of such runs, ended. A plain value.
 struct Outcome
@@ -15,26 +14,20 @@ struct Outcome
 public:
     enum Kind {
         Done,
-        /// A snapshot was made, but some files could not be read.
-        Incomplete,
+        Incomplete, ///< A snapshot was made, but some files could not be read.
         Cancelled,
-        /// There is no restic.
-        Missing,
+        Missing, ///< There is no restic.
         TooOld,
-        WrongPassword,
         NoPassword,
+        WrongPassword,
         NoRepository,
         Locked,
         NoSpace,
         NoSource,
-        /// The folder to restore into has something in it.
-        NotEmpty,
-        /// Verifying found errors.
-        Damaged,
-        /// restic was killed, or died.
-        Crashed,
-        /// Anything else: `details` tells.
-        Failed
+        NotEmpty, ///< The folder to restore into has something in it.
+        Damaged, ///< Verifying found errors.
+        Crashed, ///< restic was killed, or died.
+        Failed ///< Anything else: `details` tells.
     };
 
     Kind kind = Done;
@@ -48,15 +41,11 @@ public:
     qint64 newFiles = 0;
     qint64 changedFiles = 0;
     qint64 unchangedFiles = 0;
-    /// Of the source; and what the repository grew by.
+    /// The size of the source, and what the repository took in.
     qint64 bytesRead = 0;
     qint64 bytesAdded = 0;
     /// Lines of restic's output that were no message.
     int skippedLines = 0;
-
-    /// What restic's exit status and the last lines of its error output mean. The texts are for
-    /// versions before 0.17, which end with 1 whatever happens.
-    static Outcome ofExit(int exitStatus, const QStringList &errors);
 
     bool isGood() const
     {
@@ -64,6 +53,9 @@ public:
     }
     /// A sentence or two: what happened, and what to do.
     QString text() const;
+
+    /// What restic's exit status and its error output mean.
+    static Kind kindOf(int exitStatus, const QString &errors);
 };
 
 Q_DECLARE_METATYPE(Outcome)

@@ -5,7 +5,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QSettings>
 
 QString Restic::program()
@@ -19,10 +18,11 @@ QVersionNumber Restic::minimumVersion()
     return QVersionNumber(0, 14);
 }
 
-QVersionNumber Restic::versionIn(const QString &output)
+bool Restic::isNewEnough(const QString &version)
 {
-    const QRegularExpression pattern(QStringLiteral("^restic ([0-9.]+)"));
-    return QVersionNumber::fromString(pattern.match(output).captured(1));
+    const QString number = version.section(QLatin1Char(' '), 1, 1);
+    return version.startsWith(QLatin1String("restic "))
+        && QVersionNumber::fromString(number) >= minimumVersion();
 }
 
 QProcessEnvironment Restic::environment(const QString &repository)

@@ -14,8 +14,8 @@ QString program();
 
 /// Older ones have not been tried.
 QVersionNumber minimumVersion();
-/// From what "restic version" prints; null if that makes no sense.
-QVersionNumber versionIn(const QString &output);
+/// Of what "restic version" prints.
+bool isNewEnough(const QString &version);
 
 /// This process's environment, without what would beat the password from the standard input.
 QProcessEnvironment environment(const QString &repository);

@@ -10,8 +10,9 @@ namespace {
 
 // For restic to remove its lock, maybe over a slow line.
 const int patienceMilliseconds = 10000;
+// A line that never ends must not fill the memory.
+const qint64 longestLine = 16 * 1024 * 1024;
 const int keptErrors = 20;
-const int longestError = 2000;
 
 /// Programs that were new enough. Others are asked again: the user may install another version.
 QStringList *goodPrograms()
@@ -20,16 +21,13 @@ QStringList *goodPrograms()
     return &programs;
 }
 
-// Of a file that could not be read. Versions before 0.16 do not say why.
+// Of a file that could not be read. Versions before 0.16 say why in numbers of the system.
 QString problemText(const QJsonObject &message)
 {
     const QJsonObject error = message.value(QStringLiteral("error")).toObject();
-    QString reason = error.value(QStringLiteral("message")).toString();
-    if (reason.isEmpty()) {
-        reason = ResticRun::tr("cannot be read (%1)")
-                     .arg(error.value(QStringLiteral("Op")).toString());
-    }
-    return message.value(QStringLiteral("item")).toString() + QStringLiteral(": ") + reason;
+    const QString reason = error.value(QStringLiteral("message")).toString();
+    return message.value(QStringLiteral("item")).toString() + QStringLiteral(": ")
+        + (reason.isEmpty() ? ResticRun::tr("cannot be read") : reason);
 }
 
 } // namespace
@@ -61,93 +59,80 @@ bool ResticRun::isRunning() const
 void ResticRun::start(const QString &repository, const QString &password,
                       const QStringList &arguments)
 {
-    if (m_isRunning) {
-        return;
-    }
     m_program = Restic::program();
     m_repository = repository;
     m_password = password;
     m_arguments = arguments;
-    m_lastErrors.clear();
     m_skippedLines = 0;
     m_isRunning = true;
     m_isCancelled = false;
     m_asksVersion = !goodPrograms()->contains(m_program);
-    QTimer::singleShot(0, this, m_asksVersion ? &ResticRun::askVersion : &ResticRun::work);
+    QTimer::singleShot(0, this, &ResticRun::launch);
 }
 
 void ResticRun::cancel()
 {
-    m_isCancelled = m_isRunning;
+    m_isCancelled = true;
     if (m_process) {
         m_process->terminate();
         QTimer::singleShot(patienceMilliseconds, m_process, &QProcess::kill);
     }
 }
 
-void ResticRun::askVersion()
+void ResticRun::launch()
 {
-    launch({QStringLiteral("version")});
-}
-
-void ResticRun::work()
-{
-    if (m_password.isEmpty()) {
-        Outcome outcome;
-        outcome.kind = Outcome::NoPassword;
-        finish(outcome);
+    if (m_isCancelled) {
+        finish(Outcome::Cancelled);
         return;
     }
-    launch(m_arguments);
-    m_process->write(m_password.toUtf8() + '\n');
-    m_process->closeWriteChannel();
-}
-
-void ResticRun::launch(const QStringList &arguments)
-{
+    m_lastErrors.clear();
     m_process = new QProcess(this);
     m_process->setProcessEnvironment(Restic::environment(m_repository));
-    if (!m_outputFile.isEmpty() && !m_asksVersion) {
+    if (!m_asksVersion && !m_outputFile.isEmpty()) {
         m_process->setStandardOutputFile(m_outputFile);
     }
-    connect(m_process, &QProcess::readyReadStandardOutput, this, &ResticRun::readOutput);
-    connect(m_process, &QProcess::readyReadStandardError, this, &ResticRun::readErrors);
+    connect(m_process, &QProcess::readyReadStandardOutput, this, [this] {
+        readChannel(QProcess::StandardOutput);
+    });
+    connect(m_process, &QProcess::readyReadStandardError, this, [this] {
+        readChannel(QProcess::StandardError);
+    });
+    // Comes whether it ran or not, maybe from within start().
     connect(m_process, &QProcess::stateChanged, this, [this](QProcess::ProcessState state) {
         if (state == QProcess::NotRunning) {
             QTimer::singleShot(0, this, &ResticRun::end);
         }
     });
-    m_process->start(m_program, arguments);
+    m_process->start(m_program,
+                     m_asksVersion ? QStringList(QStringLiteral("version")) : m_arguments);
+    if (!m_asksVersion && m_process->state() != QProcess::NotRunning) {
+        m_process->write(m_password.toUtf8() + '\n');
+    }
+    m_process->closeWriteChannel();
 }
 
-void ResticRun::readOutput()
+void ResticRun::readChannel(QProcess::ProcessChannel channel)
 {
-    if (m_asksVersion) {
-        return;
-    }
-    const QList<QByteArray> lines = m_output.add(m_process->readAllStandardOutput());
-    for (const QByteArray &line : lines) {
-        readLine(line);
+    m_process->setReadChannel(channel);
+    const bool isAtEnd = m_process->state() == QProcess::NotRunning;
+    while (m_process->canReadLine() || (isAtEnd && m_process->bytesAvailable() > 0)
+           || m_process->bytesAvailable() > longestLine) {
+        const QByteArray line = m_process->readLine(longestLine).trimmed();
+        channel == QProcess::StandardOutput ? readLine(line) : readErrorLine(line);
     }
 }
 
 void ResticRun::readLine(const QByteArray &line)
 {
     const QJsonDocument document = QJsonDocument::fromJson(line);
-    if (!document.isNull()) {
+    if (m_asksVersion) {
+        m_lastErrors.append(QString::fromUtf8(line));
+    } else if (!document.isNull()) {
         emit message(document);
     } else if (!m_arguments.contains(QStringLiteral("--json"))) {
         emit textLine(QString::fromUtf8(line));
-    } else if (!line.trimmed().isEmpty() && !line.startsWith("reading repository password")) {
+    } else if (!line.isEmpty() && !line.startsWith("reading repository password")) {
         ++m_skippedLines;
-    }
-}
-
-void ResticRun::readErrors()
-{
-    const QList<QByteArray> lines = m_errors.add(m_process->readAllStandardError());
-    for (const QByteArray &line : lines) {
-        readErrorLine(line);
     }
 }
 
@@ -161,74 +146,48 @@ void ResticRun::readErrorLine(const QByteArray &line)
     } else if (message.contains(QStringLiteral("message"))) {
         text = message.value(QStringLiteral("message")).toString();
     }
-    text = text.trimmed().left(longestError);
-    if (text.isEmpty()) {
-        return;
-    }
-    m_lastErrors.append(text);
-    if (m_lastErrors.size() > keptErrors) {
-        m_lastErrors.removeFirst();
-    }
+    m_lastErrors = (m_lastErrors << text).mid(m_lastErrors.size() - keptErrors);
 }
 
 void ResticRun::end()
 {
-    if (m_asksVersion) {
-        endVersion();
-        return;
-    }
-    readOutput();
-    readErrors();
-    const QByteArray rest = m_output.takeRest();
-    if (!rest.isEmpty()) {
-        readLine(rest);
-    }
-    readErrorLine(m_errors.takeRest());
-    finish(exitOutcome());
-}
-
-void ResticRun::endVersion()
-{
-    const QString output = QString::fromUtf8(m_process->readAllStandardOutput());
-    const QVersionNumber version = Restic::versionIn(output);
-    const bool isMissing = m_process->error() == QProcess::FailedToStart;
-    if (m_isCancelled || isMissing || version < Restic::minimumVersion()) {
-        Outcome outcome = exitOutcome();
-        if (!m_isCancelled && !isMissing) {
-            outcome.kind = Outcome::TooOld;
-            outcome.details = output.trimmed();
-        }
-        finish(outcome);
-        return;
-    }
-    goodPrograms()->append(m_program);
-    m_asksVersion = false;
+    readChannel(QProcess::StandardOutput);
+    readChannel(QProcess::StandardError);
+    const Outcome::Kind kind = kindOfEnd();
     m_process->deleteLater();
-    work();
+    m_process = nullptr;
+    if (m_asksVersion && kind == Outcome::Done) {
+        m_asksVersion = false;
+        goodPrograms()->append(m_program);
+        launch();
+    } else {
+        finish(kind);
+    }
 }
 
-Outcome ResticRun::exitOutcome()
+Outcome::Kind ResticRun::kindOfEnd() const
 {
-    Outcome outcome = Outcome::ofExit(m_process->exitCode(), m_lastErrors);
-    if (m_isCancelled) {
-        outcome.kind = Outcome::Cancelled;
-    } else if (m_process->error() == QProcess::FailedToStart) {
-        outcome.kind = Outcome::Missing;
-    } else if (m_process->exitStatus() == QProcess::CrashExit) {
-        outcome.kind = Outcome::Crashed;
+    const QString errors = m_lastErrors.join(QLatin1Char('\n'));
+    if (m_process->error() == QProcess::FailedToStart) {
+        return Outcome::Missing;
     }
-    return outcome;
+    if (m_process->exitStatus() == QProcess::CrashExit) {
+        return m_isCancelled ? Outcome::Cancelled : Outcome::Crashed;
+    }
+    if (m_asksVersion) {
+        return Restic::isNewEnough(errors) ? Outcome::Done : Outcome::TooOld;
+    }
+    const Outcome::Kind kind = Outcome::kindOf(m_process->exitCode(), errors);
+    return m_isCancelled && kind != Outcome::Done ? Outcome::Cancelled : kind;
 }
 
-void ResticRun::finish(const Outcome &outcome)
+void ResticRun::finish(Outcome::Kind kind)
 {
-    Outcome result = outcome;
-    result.skippedLines = m_skippedLines;
-    if (m_process) {
-        m_process->deleteLater();
-        m_process = nullptr;
-    }
+    Outcome outcome;
+    outcome.kind = kind;
+    outcome.details = m_lastErrors.join(QLatin1Char('\n'));
+    outcome.skippedLines = m_skippedLines;
     m_password.clear();
     m_isRunning = false;
-    emit finished(result);
+    emit finished(outcome);
 }

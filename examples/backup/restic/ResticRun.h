@@ -2,12 +2,12 @@
 #ifndef RESTICRUN_H
 #define RESTICRUN_H
 
-#include "LineSplitter.h"
 #include "Outcome.h"
 
 #include <QJsonDocument>
 #include <QObject>
 #include <QProcess>
+#include <QStringList>
 
 /// One run of restic at a time: the password goes to its standard input, messages come from its
 /// standard output. The program's version is looked at first.
@@ -22,19 +22,17 @@ public:
 
     /// Writes the standard output into a file instead of announcing it, for long lists.
     void setOutputFile(const QString &path);
-
-    /// finished() always follows, and never from within this call. Nothing happens if a run is
-    /// under way. With "--json" among the arguments what is no JSON is counted, else it is
-    /// announced.
-    void start(const QString &repository, const QString &password, const QStringList &arguments);
     bool isRunning() const;
+    /// finished() always follows, never from within this call. Not while a run is under way. With
+    /// "--json" among the arguments what is no JSON is counted, else it is announced.
+    void start(const QString &repository, const QString &password, const QStringList &arguments);
 
 public slots:
     /// Asks restic to end, and kills it if it does not.
     void cancel();
 
 signals:
-    /// An object or an array: one line.
+    /// One line: an object or an array.
     void message(const QJsonDocument &message);
     /// A line that is no JSON, where none was asked for.
     void textLine(const QString &line);
@@ -43,17 +41,13 @@ signals:
     void finished(const Outcome &outcome);
 
 private:
-    void askVersion();
-    void work();
-    void launch(const QStringList &arguments);
-    void readOutput();
+    void launch();
+    void readChannel(QProcess::ProcessChannel channel);
     void readLine(const QByteArray &line);
-    void readErrors();
     void readErrorLine(const QByteArray &line);
     void end();
-    void endVersion();
-    void finish(const Outcome &outcome);
-    Outcome exitOutcome();
+    Outcome::Kind kindOfEnd() const;
+    void finish(Outcome::Kind kind);
 
     QProcess *m_process = nullptr;
     QString m_program;
@@ -61,8 +55,6 @@ private:
     QString m_password;
     QStringList m_arguments;
     QString m_outputFile;
-    LineSplitter m_output;
-    LineSplitter m_errors;
     QStringList m_lastErrors;
     int m_skippedLines = 0;
     bool m_isRunning = false;
