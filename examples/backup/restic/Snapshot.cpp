@@ -49,6 +49,7 @@ bool SnapshotFile::read(const QByteArray &line, SnapshotFile *file)
     const QJsonObject object = QJsonDocument::fromJson(line).object();
     file->path = textOf(object, "path");
     file->type = textOf(object, "type");
+    file->permissions = textOf(object, "permissions");
     file->size = static_cast<qint64>(object.value(QStringLiteral("size")).toDouble());
     file->modified = timeOf(object, "mtime");
     return textOf(object, "struct_type") == QLatin1String("node") && !file->path.isEmpty();

@@ -29,6 +29,8 @@ struct SnapshotFile
     QString path;
     /// "file", "dir", "symlink", ...
     QString type;
+    /// Such as "drwxr-xr-x".
+    QString permissions;
     qint64 size = 0;
     QDateTime modified;
 

@@ -4,64 +4,52 @@
 namespace {
 
 // Where the table's password column keeps what was typed; the cell itself holds the mask only.
-const int passphraseRole = Qt::UserRole + 1;
-
-// Captions and labels are translated by the table, in these contexts, when it shows them.
-const char *const verifyLabel = QT_TRANSLATE_NOOP("CheckItemDelegate", "Verify");
-const char *const runCaption = QT_TRANSLATE_NOOP("EditableTableView", "Run");
-const char *const removeCaption = QT_TRANSLATE_NOOP("EditableTableView", "Remove");
+const int passwordRole = Qt::UserRole + 1;
 
 QStandardItem *textItem(const QString &text)
 {
     return new QStandardItem(text);
 }
 
-// A button covers its cell, so the cell says to screen readers what the button does.
-QStandardItem *buttonItem(const QString &description)
+QStandardItem *buttonItem()
 {
     QStandardItem *cell = new QStandardItem;
-    cell->setAccessibleText(description);
     cell->setEditable(false);
     return cell;
 }
 
 } // namespace
 
-JobModel::JobModel(QObject *parent)
+JobModel::JobModel(const QList<BackupJob> &jobs, QObject *parent)
     : QStandardItemModel(0, ColumnCount, parent)
 {
-    setHorizontalHeaderLabels({tr("Name"), tr("Source"), tr("Target"), tr("Passphrase"),
+    setHorizontalHeaderLabels({tr("Name"), tr("Source"), tr("Repository"), tr("Password"),
                                tr("Check"), QString(), QString()});
+    for (const BackupJob &job : jobs) {
+        appendJob(job);
+    }
 }
 
-QStringList JobModel::columnDeclarations()
+QString JobModel::chooseEntry()
 {
-    const QLatin1Char colon(':');
-    return {QStringLiteral("editbox"),
-            QStringLiteral("combobox"),
-            QStringLiteral("editcombobox"),
-            QStringLiteral("passwordbox"),
-            QStringLiteral("checkbox") + colon + QLatin1String(verifyLabel),
-            QStringLiteral("button") + colon + QLatin1String(runCaption),
-            QStringLiteral("button") + colon + QLatin1String(removeCaption)};
+    return tr("Choose a folder...");
 }
 
 void JobModel::appendJob(const BackupJob &job)
 {
-    const QString verify = job.verifiesAfterRun ? QStringLiteral("1") : QString();
-    appendRow({textItem(job.name), textItem(job.sourceFolder), textItem(job.targetFolder),
-               textItem(QString()), textItem(verify), buttonItem(tr("Run this backup")),
-               buttonItem(tr("Remove this backup from the list"))});
+    const QString verify = job.verify ? QStringLiteral("1") : QString();
+    appendRow({textItem(job.name), textItem(job.source), textItem(job.repository),
+               textItem(QString()), textItem(verify), buttonItem(), buttonItem()});
 }
 
 BackupJob JobModel::job(int row) const
 {
     BackupJob job;
     job.name = text(row, Name);
-    job.sourceFolder = text(row, Source);
-    job.targetFolder = text(row, Target);
-    job.passphrase = index(row, Passphrase).data(passphraseRole).toString();
-    job.verifiesAfterRun = !text(row, Verify).isEmpty();
+    job.source = text(row, Source);
+    job.repository = text(row, Repository);
+    job.password = index(row, Password).data(passwordRole).toString();
+    job.verify = !text(row, Verify).isEmpty();
     return job;
 }
 
@@ -74,7 +62,68 @@ QList<BackupJob> JobModel::jobs() const
     return all;
 }
 
+int JobModel::runningRow() const
+{
+    return m_running.row();
+}
+
+void JobModel::setRunningRow(int row)
+{
+    const int before = runningRow();
+    m_running = index(row, Run);
+    for (int changed : {before, row}) {
+        emit dataChanged(index(changed, Run), index(changed, Run));
+    }
+}
+
+QString JobModel::runText(int row) const
+{
+    return (row == runningRow() ? tr("Cancel %1") : tr("Run %1")).arg(text(row, Name));
+}
+
+QString JobModel::removeText(int row) const
+{
+    return tr("Remove %1").arg(text(row, Name));
+}
+
+QVariant JobModel::data(const QModelIndex &index, int role) const
+{
+    const bool isPath = index.column() == Source || index.column() == Repository;
+    if (role == Qt::ToolTipRole && isPath) {
+        return data(index); // the cell may be too narrow for it
+    }
+    if (role == Qt::AccessibleTextRole && index.column() >= Password) {
+        return accessibleText(index);
+    }
+    return QStandardItemModel::data(index, role);
+}
+
+bool JobModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (index.column() == Source && value.toString() == chooseEntry()) {
+        emit sourceWanted(index.row());
+        return false;
+    }
+    return QStandardItemModel::setData(index, value, role);
+}
+
 QString JobModel::text(int row, Column column) const
 {
     return index(row, column).data(Qt::EditRole).toString();
+}
+
+// A button covers its cell, and what is painted as a check box is a "1" to a screen reader.
+QVariant JobModel::accessibleText(const QModelIndex &index) const
+{
+    const bool isEmpty = text(index.row(), Column(index.column())).isEmpty();
+    switch (index.column()) {
+    case Password:
+        return isEmpty ? tr("Password: asked for") : tr("Password: typed");
+    case Verify:
+        return isEmpty ? tr("Verify: no") : tr("Verify: yes");
+    case Run:
+        return runText(index.row());
+    default:
+        return removeText(index.row());
+    }
 }

@@ -5,6 +5,7 @@
 #include "BackupJob.h"
 
 #include <QList>
+#include <QPersistentModelIndex>
 #include <QStandardItemModel>
 
 /// The jobs as the table shows them, a row each.
@@ -13,19 +14,37 @@ class JobModel : public QStandardItemModel
     Q_OBJECT
 
 public:
-    enum Column { Name, Source, Target, Passphrase, Verify, Run, Remove, ColumnCount };
+    enum Column { Name, Source, Repository, Password, Verify, Run, Remove, ColumnCount };
 
-    explicit JobModel(QObject *parent = nullptr);
+    explicit JobModel(const QList<BackupJob> &jobs, QObject *parent = nullptr);
 
-    /// What EditableTableView::setColumns() is to be told for these columns.
-    static QStringList columnDeclarations();
+    /// The entry among the sources that stands for a folder still to be chosen.
+    static QString chooseEntry();
 
     void appendJob(const BackupJob &job);
     BackupJob job(int row) const;
     QList<BackupJob> jobs() const;
 
+    /// The row of the job that is being backed up; -1 if none is.
+    int runningRow() const;
+    void setRunningRow(int row);
+
+    /// What the button of the row is for, for those who do not see the row.
+    QString runText(int row) const;
+    QString removeText(int row) const;
+
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+
+signals:
+    /// The user wants to choose a folder for the source; the job keeps the one it has.
+    void sourceWanted(int row);
+
 private:
     QString text(int row, Column column) const;
+    QVariant accessibleText(const QModelIndex &index) const;
+
+    QPersistentModelIndex m_running;
 };
 
 #endif

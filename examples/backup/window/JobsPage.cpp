@@ -1,45 +1,38 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "JobsPage.h"
 
-#include "FolderList.h"
 #include "JobModel.h"
-#include "ProgressPanel.h"
+#include "JobsTable.h"
+#include "Question.h"
 
-#include <EditableTableView.h>
 #include <SpinBox.h>
 
 #include <QDir>
-#include <QFormLayout>
+#include <QHBoxLayout>
 #include <QItemSelectionModel>
-#include <QStringListModel>
+#include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
-JobsPage::JobsPage(const QList<BackupJob> &jobs, QWidget *parent)
+JobsPage::JobsPage(JobModel *jobs, BackupRun *run, QWidget *parent)
     : QWidget(parent)
-    , m_jobs(new JobModel(this))
-    , m_sources(new QStringListModel(FolderList::sources(), this))
-    , m_targets(new QStringListModel(this))
-    , m_table(new EditableTableView)
-    , m_engine(new BackupEngine(this))
-    , m_progress(new ProgressPanel(m_engine))
+    , m_run(run)
+    , m_jobs(jobs)
+    , m_table(new JobsTable(m_jobs))
     , m_bandwidthLimit(new SpinBox)
 {
-    for (const BackupJob &job : jobs) {
-        m_jobs->appendJob(job);
-        FolderList::add(m_sources, job.sourceFolder);
-    }
-    collectTargets();
-    setUpTable();
     setUpBandwidthLimit();
     setUpLayout();
 
-    connect(m_jobs, &JobModel::itemChanged, this, &JobsPage::changed);
-    connect(m_jobs, &JobModel::rowsInserted, this, &JobsPage::changed);
-    connect(m_jobs, &JobModel::rowsRemoved, this, &JobsPage::changed);
-    connect(m_jobs, &JobModel::itemChanged, this, &JobsPage::collectTargets);
+    // The library reports which button was clicked, and where.
+    connect(m_table,
+            SIGNAL(buttonClicked(QWidget*,int,int,QStringList)),
+                   SLOT(actOnClick(QWidget*,int,int)));
     connect(m_jobs, &JobModel::itemChanged, this, &JobsPage::announceCurrentJob);
+    connect(m_jobs, &JobModel::rowsRemoved, this, &JobsPage::announceCurrentJob);
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &JobsPage::announceCurrentJob);
+    connect(m_run, &BackupRun::finished, this, &JobsPage::endRun);
 }
 
 BackupJob JobsPage::currentJob() const
@@ -52,36 +45,42 @@ void JobsPage::addJob()
 {
     BackupJob job;
     job.name = tr("New backup");
-    job.sourceFolder = QDir::homePath();
+    job.source = QDir::homePath();
     m_jobs->appendJob(job);
-
-    const QModelIndex name = m_jobs->index(m_jobs->rowCount() - 1, JobModel::Name);
-    m_table->setFocus();
-    m_table->setCurrentIndex(name);
-    m_table->edit(name);
-}
-
-void JobsPage::addSource(const QString &folder)
-{
-    FolderList::add(m_sources, QDir::cleanPath(folder));
+    m_table->editCell(m_jobs->rowCount() - 1, JobModel::Name);
 }
 
 void JobsPage::runJob(int row)
 {
     const BackupJob job = m_jobs->job(row);
-    QString refusal;
-    if (m_engine->start(job, &refusal)) {
-        m_progress->begin(job.name);
+    if (row == m_jobs->runningRow()) {
+        m_run->cancel();
+    } else if (m_run->isRunning()) {
+        emit message(tr("\"%1\" was not started: there is one run at a time.").arg(job.name));
+    } else if (job.repository.isEmpty()) {
+        emit message(tr("Say first where the backups of \"%1\" are to be kept.").arg(job.name));
+        m_table->editCell(row, JobModel::Repository);
+    } else if (job.password.isEmpty()) {
+        askPassword(row);
     } else {
-        m_progress->showRefusal(refusal);
+        start(row, job);
     }
 }
 
 void JobsPage::removeJob(int row)
 {
     const QString name = m_jobs->job(row).name;
-    m_jobs->removeRow(row);
-    emit message(tr("Removed \"%1\" from the list; its copies stay where they are").arg(name));
+    if (row == m_jobs->runningRow()) {
+        emit message(tr("\"%1\" is running. Cancel it before you remove it.").arg(name));
+        return;
+    }
+    const QString question = tr("Remove \"%1\" from the list? Its backups stay in the repository.");
+    const QPersistentModelIndex cell(m_jobs->index(row, JobModel::Remove));
+    Question::ask(this, question.arg(name), [this, cell](bool yes) {
+        if (yes && cell.isValid()) {
+            m_jobs->removeRow(cell.row());
+        }
+    });
 }
 
 void JobsPage::actOnClick(QWidget *, int row, int column)
@@ -93,72 +92,63 @@ void JobsPage::actOnClick(QWidget *, int row, int column)
     }
 }
 
-// The target column offers every target that was ever used here, typed ones included.
-void JobsPage::collectTargets()
-{
-    const QList<BackupJob> jobs = m_jobs->jobs();
-    for (const BackupJob &job : jobs) {
-        FolderList::add(m_targets, job.targetFolder);
-    }
-}
-
 void JobsPage::announceCurrentJob()
 {
     emit currentJobChanged(currentJob());
 }
 
-void JobsPage::limitBandwidth(int mebibytes)
+void JobsPage::endRun()
 {
-    m_engine->setBytesPerSecond(qint64(mebibytes) * 1024 * 1024);
-}
-
-void JobsPage::showBandwidthHint()
-{
-    emit message(tr("How much is copied in a second at most; 0 is no limit"));
-}
-
-void JobsPage::setUpTable()
-{
-    m_table->setColumns(JobModel::columnDeclarations());
-    m_table->bindModel(JobModel::Source, m_sources);
-    m_table->bindModel(JobModel::Target, m_targets);
-    m_table->setStretchSection(JobModel::Target);
-    m_table->setModel(m_jobs);
-    m_table->setEditTriggers(QAbstractItemView::SelectedClicked | QAbstractItemView::DoubleClicked
-                             | QAbstractItemView::EditKeyPressed
-                             | QAbstractItemView::AnyKeyPressed);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setAccessibleName(tr("Backups"));
-    // The arrow keys go from cell to cell; Tab goes on to the buttons and out of the table.
-    m_table->setTabKeyNavigation(false);
-
-    const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    const QList<int> widths = {20, 28, 28, 14, 12, 10, 12}; // in digits; the target takes the rest
-    for (int column = 0; column < widths.size(); ++column) {
-        m_table->resizeSection(column, widths.at(column) * digit);
-    }
-    connect(m_table,
-            SIGNAL(buttonClicked(QWidget*,int,int,QStringList)),
-                   SLOT(actOnClick(QWidget*,int,int)));
+    m_jobs->setRunningRow(-1);
 }
 
 void JobsPage::setUpBandwidthLimit()
 {
-    m_bandwidthLimit->setRange(0, 10000);
-    m_bandwidthLimit->setSuffix(tr(" MiB/s"));
+    m_bandwidthLimit->setRange(0, 10000000);
+    m_bandwidthLimit->setSingleStep(100);
+    m_bandwidthLimit->setSuffix(tr(" KB/s"));
     m_bandwidthLimit->setSpecialValueText(tr("none"));
-    connect(m_bandwidthLimit, QOverload<int>::of(&SpinBox::valueChanged), this,
-            &JobsPage::limitBandwidth);
-    connect(m_bandwidthLimit, &SpinBox::focused, this, &JobsPage::showBandwidthHint);
+    // The library's spin box tells when the user comes to it.
+    connect(m_bandwidthLimit, &SpinBox::focused, this, [this] {
+        emit message(tr("How much the next run writes to the repository in a second at most"));
+    });
 }
 
 void JobsPage::setUpLayout()
 {
-    QFormLayout *settings = new QFormLayout;
-    settings->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-    settings->addRow(tr("Bandwidth &limit:"), m_bandwidthLimit);
+    QPushButton *add = new QPushButton(tr("&New backup"));
+    connect(add, &QPushButton::clicked, this, &JobsPage::addJob);
+    QLabel *limit = new QLabel(tr("Bandwidth &limit:"));
+    limit->setBuddy(m_bandwidthLimit);
+
+    QHBoxLayout *below = new QHBoxLayout;
+    below->addWidget(add);
+    below->addStretch();
+    below->addWidget(limit);
+    below->addWidget(m_bandwidthLimit);
     QVBoxLayout *layout = new QVBoxLayout(this);
-    layout->addWidget(m_table, 1);
-    layout->addLayout(settings);
-    layout->addWidget(m_progress);
+    layout->addWidget(m_table);
+    layout->addLayout(below);
+}
+
+void JobsPage::askPassword(int row)
+{
+    const QPersistentModelIndex cell(m_jobs->index(row, JobModel::Password));
+    const QString question = tr("Password of the repository %1:").arg(m_jobs->job(row).repository);
+    Question::askPassword(this, question, [this, cell](const QString &password) {
+        if (cell.isValid()) {
+            BackupJob job = m_jobs->job(cell.row());
+            job.password = password;
+            start(cell.row(), job);
+        }
+    });
+}
+
+void JobsPage::start(int row, const BackupJob &job)
+{
+    m_run->setUploadLimit(m_bandwidthLimit->value());
+    if (m_run->backUp(job)) {
+        m_jobs->setRunningRow(row);
+        emit started(tr("Backing up \"%1\"").arg(job.name));
+    }
 }

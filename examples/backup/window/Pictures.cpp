@@ -1,38 +1,36 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "Pictures.h"
 
-#include "BackupEngine.h"
-#include "CommandLine.h"
+#include "BackupRun.h"
 #include "FileListModel.h"
-#include "FilesPage.h"
 #include "JobModel.h"
-#include "JobsPage.h"
+#include "JobsTable.h"
 #include "MainWindow.h"
+#include "Translators.h"
 
-#include <EditableTableView.h>
-#include <FileListTableView.h>
 #include <SpinBox.h>
 
 #include <QApplication>
-#include <QColor>
 #include <QDir>
-#include <QEventLoop>
+#include <QElapsedTimer>
 #include <QFile>
-#include <QFileInfo>
-#include <QFont>
 #include <QLineEdit>
-#include <QPalette>
+#include <QLocale>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QRandomGenerator>
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <functional>
 #include <memory>
 
 namespace {
 
-const int sampleFiles = 12000;
+const int patienceMilliseconds = 60000;
+const QString password(QStringLiteral("correct horse"));
 
 QPalette darkPalette()
 {
@@ -44,184 +42,218 @@ QPalette darkPalette()
 
 void writeSampleTree(const QString &folder)
 {
-    for (int number = 0; number < sampleFiles; ++number) {
-        const QString name = QStringLiteral("letters/%1/letter-%2.txt")
-                                 .arg(number / 1000)
-                                 .arg(number, 5, 10, QLatin1Char('0'));
-        const QString path = QDir(folder).filePath(name);
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
+    for (int number = 0; number < 1200; ++number) {
+        const QString below = QStringLiteral("%1/letters %2").arg(folder).arg(number / 100);
+        QDir().mkpath(below);
+        QFile file(QStringLiteral("%1/letter %2.odt").arg(below).arg(number, 4, 10, QChar('0')));
+        QVector<quint32> noise(number * 4); // which cannot be made smaller
+        QRandomGenerator::global()->fillRange(noise.data(), noise.size());
         if (file.open(QIODevice::WriteOnly)) {
-            file.write(QByteArray(1000 + number % 5000, 'x'));
+            file.write(reinterpret_cast<const char *>(noise.constData()), noise.size() * 4);
         }
     }
 }
 
-BackupJob job(const QString &name, const QString &source, const QString &target, bool verifies)
+BackupJob job(const QString &name, const QString &source, const QString &repository, bool verify)
 {
     BackupJob job;
     job.name = name;
-    job.sourceFolder = source;
-    job.targetFolder = target;
-    job.verifiesAfterRun = verifies;
+    job.source = source;
+    job.repository = repository;
+    job.verify = verify;
     return job;
 }
 
 /// The window in front of the camera, with jobs of its own in a scratch folder.
-class Studio : public QObject
+class Studio
 {
-    Q_OBJECT
-
 public:
-    explicit Studio(const CommandLine &commandLine)
-        : m_pictures(commandLine.picturesFolder)
+    Studio(const QString &pictures, Translators *translators)
+        : m_pictures(pictures)
+        , m_translators(translators)
         , m_store(m_scratch.filePath(QStringLiteral("jobs.ini")))
     {
-        QString source = commandLine.sourceFolder;
-        QString target = commandLine.targetFolder;
-        if (source.isEmpty() || target.isEmpty()) {
-            source = m_scratch.filePath(QStringLiteral("Documents"));
-            target = m_scratch.filePath(QStringLiteral("backup"));
-            writeSampleTree(source);
-        }
-        m_store.save({job(QStringLiteral("Documents"), source, target, true),
+        const QString source = m_scratch.filePath(QStringLiteral("Documents"));
+        const QString repository = m_scratch.filePath(QStringLiteral("repository"));
+        writeSampleTree(source);
+        m_store.save({job(QStringLiteral("Documents"), source, repository, true),
                       job(QStringLiteral("Pictures"), QStringLiteral("/home/anna/Pictures"),
-                          QStringLiteral("/media/disk/pictures"), true),
+                          QStringLiteral("sftp:backup.example.org:/srv/anna"), true),
                       job(QStringLiteral("Mail"), QStringLiteral("/home/anna/Mail"),
                           QStringLiteral("/media/disk/mail"), false)});
     }
 
     int run()
     {
-        m_window.reset(new MainWindow(m_store));
-        m_window->show();
-        m_window->activateWindow();
+        open(QLocale::English, QSize(960, 560));
         take(QStringLiteral("jobs"));
-        typePassphrase();
         backUp();
-        takeAllPages(QStringLiteral("finished"));
+        takePages(QStringLiteral("finished"));
+        takeErrors();
         QApplication::setPalette(darkPalette());
-        takeAllPages(QStringLiteral("dark"));
+        takeWindow(QLocale::English, QSize(960, 560), QStringLiteral("dark"));
+        QApplication::setPalette(QApplication::style()->standardPalette());
+        takeWindow(QLocale::German, QSize(960, 560), QStringLiteral("german"));
+        takeWindow(QLocale::Spanish, QSize(960, 560), QStringLiteral("spanish"));
+        takeWindow(QLocale::German, QSize(800, 600), QStringLiteral("800x600"));
+        m_scale = 2;
+        takeWindow(QLocale::German, QSize(1366, 768) / m_scale, QStringLiteral("2x"));
         return m_exitStatus;
     }
 
-private slots:
-    /// Goes on with the list, page by page to its end, while the backup runs.
-    void listOn()
-    {
-        FilesPage *page = m_window->filesPage();
-        if (!m_isListed && page->model()->rowCount() > 1) {
-            page->list()->StartLoadingData();
-        }
-    }
-
-    void watch(const BackupProgress &progress)
-    {
-        if (m_isHalfway || progress.phase != BackupPhase::Copying
-            || progress.filesDone * 2 < progress.filesTotal) {
-            return;
-        }
-        m_isHalfway = true;
-        takeAllPages(QStringLiteral("running"));
-        m_window->jobsPage()->bandwidthLimit()->setValue(0);
-    }
-
-    void endListing(qint64, bool completed)
-    {
-        m_isListed = completed;
-        QMetaObject::invokeMethod(this, "listOn", Qt::QueuedConnection);
-        stopWhenDone();
-    }
-
-    void endBackup(const BackupSummary &summary)
-    {
-        m_exitStatus = summary.isComplete() ? m_exitStatus : 1;
-        m_isBackedUp = true;
-        stopWhenDone();
-    }
-
 private:
-    void stopWhenDone()
+    void open(QLocale::Language language, const QSize &size)
     {
-        if (m_isListed && m_isBackedUp) {
-            m_loop.quit();
-        }
+        m_translators->speak(QLocale(language));
+        m_window.reset(new MainWindow(m_store));
+        m_window->resize(size);
+        m_window->show();
+        m_window->activateWindow();
     }
 
-    void take(const QString &name)
+    template <class Widget> Widget *find() const
+    {
+        return m_window->findChild<Widget *>();
+    }
+
+    void waitFor(const std::function<bool()> &condition)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        while (!condition() && timer.elapsed() < patienceMilliseconds) {
+            QApplication::processEvents(QEventLoop::AllEvents, 20);
+        }
+        m_exitStatus = condition() ? m_exitStatus : 1;
+    }
+
+    void take(const QString &name, QWidget *widget = nullptr)
     {
         QApplication::processEvents();
+        widget = widget ? widget : m_window.get();
+        QPixmap picture(widget->size() * m_scale);
+        picture.setDevicePixelRatio(m_scale);
+        widget->render(&picture);
         const QString path = QDir(m_pictures).filePath(name + QStringLiteral(".png"));
-        if (!QDir().mkpath(m_pictures) || !m_window->grab().save(path)) {
+        if (!QDir().mkpath(m_pictures) || !picture.save(path)) {
             std::fprintf(stderr, "%s could not be written\n", qPrintable(path));
             m_exitStatus = 1;
-            return;
         }
         std::printf("%s\n", qPrintable(path));
     }
 
-    void takeAllPages(const QString &name)
+    void takePages(const QString &name)
     {
         const QStringList pages
             = {QStringLiteral("jobs"), QStringLiteral("files"), QStringLiteral("throughput")};
-        const int shown = m_window->pages()->currentIndex();
-        for (int page = 0; page < m_window->pages()->count(); ++page) {
-            m_window->pages()->setCurrentIndex(page);
+        QTabWidget *tabs = find<QTabWidget>();
+        for (int page = 0; page < tabs->count(); ++page) {
+            tabs->setCurrentIndex(page);
+            waitFor([this, page] {
+                return page != 1 || find<BackupRun>()->isRunning()
+                    || find<FileListModel>()->rowCount() > 1;
+            });
             take(pages.at(page) + QLatin1Char('-') + name);
         }
-        m_window->pages()->setCurrentIndex(shown);
+        tabs->setCurrentIndex(0);
     }
 
-    void typePassphrase()
+    void takeWindow(QLocale::Language language, const QSize &size, const QString &name)
     {
-        EditableTableView *table = m_window->jobsPage()->table();
-        const QModelIndex cell = m_window->jobsPage()->jobs()->index(0, JobModel::Passphrase);
-        table->setCurrentIndex(cell);
-        table->edit(cell);
-        if (QLineEdit *field = qobject_cast<QLineEdit *>(table->indexWidget(cell))) {
-            field->insert(QStringLiteral("correct horse"));
-        }
-        take(QStringLiteral("jobs-editing"));
-        table->setCurrentIndex(cell.sibling(0, JobModel::Name));
+        open(language, size);
+        typePassword(password);
+        takePages(name);
     }
 
-    // Slowly at first, so that the chart has something to show, and all of it in the end.
+    /// Types it into the first job's cell, and leaves the cell after a picture.
+    void typePassword(const QString &text, const QString &picture = QString())
+    {
+        JobsTable *table = find<JobsTable>();
+        table->editCell(0, JobModel::Password);
+        if (QLineEdit *field = qobject_cast<QLineEdit *>(table->button(0, JobModel::Password))) {
+            field->insert(text);
+        }
+        if (!picture.isEmpty()) {
+            take(picture);
+        }
+        table->setCurrentIndex(table->model()->index(0, JobModel::Name));
+    }
+
+    void clickRun()
+    {
+        static_cast<QPushButton *>(find<JobsTable>()->button(0, JobModel::Run))->click();
+    }
+
+    // Slowly, so that there is something to see of it.
     void backUp()
     {
-        JobsPage *page = m_window->jobsPage();
-        connect(page->engine(), &BackupEngine::progressChanged, this, &Studio::watch);
-        connect(page->engine(), &BackupEngine::finished, this, &Studio::endBackup);
-        connect(m_window->filesPage()->model(), &FileListModel::pageLoaded, this,
-                &Studio::endListing);
-        page->bandwidthLimit()->setValue(4);
-        static_cast<QPushButton *>(page->table()->button(0, JobModel::Run))->click();
-        if (!page->engine()->isRunning()) {
-            m_exitStatus = 1;
-            return;
+        BackupRun *run = find<BackupRun>();
+        QObject::connect(run, &BackupRun::progressChanged, run,
+                         [this](const BackupProgress &progress) {
+                             m_fraction = progress.fraction;
+                         });
+        QObject::connect(run, &BackupRun::finished, run, [this](const Outcome &outcome) {
+            m_exitStatus = outcome.isGood() ? m_exitStatus : 1;
+        });
+        find<JobsTable>()->parentWidget()->findChild<SpinBox *>()->setValue(2000);
+        typePassword(password, QStringLiteral("jobs-editing"));
+        clickRun();
+        waitFor([] {
+            return QApplication::activeModalWidget();
+        });
+        if (QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            take(QStringLiteral("question"), box);
+            box->button(QMessageBox::Yes)->click();
         }
-        m_window->pages()->setCurrentWidget(m_window->filesPage());
-        m_loop.exec();
+        waitFor([this] {
+            return m_fraction > 0.6;
+        });
+        takePages(QStringLiteral("running"));
+        waitFor([run] {
+            return !run->isRunning();
+        });
+    }
+
+    void takeErrors()
+    {
+        const QByteArray path = qgetenv("PATH");
+        takeError(QStringLiteral("error-password"), QStringLiteral("wrong"));
+        qputenv("PATH", "");
+        takeError(QStringLiteral("error-restic"), password);
+        qputenv("PATH", path);
+        const QList<BackupJob> jobs = m_store.load();
+        m_store.save({});
+        open(QLocale::English, QSize(960, 560));
+        take(QStringLiteral("jobs-empty"));
+        m_store.save(jobs);
+    }
+
+    void takeError(const QString &name, const QString &typed)
+    {
+        open(QLocale::English, QSize(960, 560));
+        typePassword(typed);
+        clickRun();
+        waitFor([this] {
+            return !find<BackupRun>()->isRunning();
+        });
+        take(name);
     }
 
     QString m_pictures;
+    Translators *m_translators;
     QTemporaryDir m_scratch;
     JobStore m_store;
     std::unique_ptr<MainWindow> m_window;
-    QEventLoop m_loop;
-    bool m_isHalfway = false;
-    bool m_isListed = false;
-    bool m_isBackedUp = false;
+    double m_fraction = 0; ///< How much of the backup has been seen done.
+    int m_scale = 1;
     int m_exitStatus = 0;
 };
 
 } // namespace
 
-int takePictures(const CommandLine &commandLine)
+int takePictures(const QString &folder, Translators *translators)
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
     QApplication::setPalette(QApplication::style()->standardPalette());
-    return Studio(commandLine).run();
+    return Studio(folder, translators).run();
 }
-
-#include "Pictures.moc"
