@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "CommandLine.h"
+#include "Console.h"
 #include "JobStore.h"
 #include "MainWindow.h"
 #include "Pictures.h"
@@ -7,15 +9,46 @@
 #include <QApplication>
 #include <QLocale>
 
-int main(int argc, char **argv)
+namespace {
+
+// Without a locale, as in cron, Qt 5 takes no file's name for one that is not ASCII.
+void expectUtf8()
+{
+    QByteArray locale;
+    for (const char *name : {"LC_ALL", "LC_CTYPE", "LANG"}) {
+        locale = locale.isEmpty() ? qgetenv(name) : locale;
+    }
+    if (locale.isEmpty() || locale == "C" || locale == "POSIX") {
+        qputenv("LC_ALL", "C.UTF-8");
+    }
+}
+
+int runInWindow(int argc, char **argv)
 {
     QApplication application(argc, argv);
     Translators translators((QLocale()));
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == QLatin1String("--pictures")) {
-        return takePictures(arguments.value(2), &translators);
+    const CommandLine line = CommandLine::parse(QCoreApplication::arguments());
+    if (!line.error.isEmpty()) {
+        return Console::run(line);
+    }
+    if (line.task == CommandLine::TakePictures) {
+        return takePictures(line.folder, &translators);
     }
     MainWindow window((JobStore()));
     window.show();
     return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    expectUtf8();
+    QCoreApplication::setApplicationVersion(QStringLiteral(BACKUP_VERSION));
+    if (CommandLine::needsDisplay(argc, argv)) {
+        return runInWindow(argc, argv);
+    }
+    QCoreApplication application(argc, argv);
+    const Translators translators((QLocale()));
+    return Console::run(CommandLine::parse(QCoreApplication::arguments()));
 }

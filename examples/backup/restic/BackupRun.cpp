@@ -207,6 +207,7 @@ void BackupRun::endStep(const Outcome &outcome)
     } else if (m_step == BackUp && goesOn(outcome)) {
         m_outcome.kind = outcome.kind;
         m_outcome.details = outcome.details;
+        m_asked.clear();
         startStep(Verify);
     } else if (!asks(outcome)) {
         endAs(outcome);

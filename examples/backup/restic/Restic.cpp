@@ -15,7 +15,7 @@ QString Restic::program()
 
 QVersionNumber Restic::minimumVersion()
 {
-    return QVersionNumber(0, 14);
+    return QVersionNumber(0, 11);
 }
 
 bool Restic::isNewEnough(const QString &version)
