@@ -10,7 +10,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRandomGenerator>
-#include <QStandardPaths>
 #include <QTimer>
 #include <QtTest>
 
@@ -83,7 +82,7 @@ QStringList Window::listedNames() const
 
 QString Window::path(const QString &relative) const
 {
-    return m_scratch.filePath(relative);
+    return QFile::decodeName(sandbox.path(QFile::encodeName(relative)));
 }
 
 QString Window::repository() const
@@ -199,9 +198,7 @@ int runTests(QObject *tests, int argc, char **argv)
     if (qgetenv("QT_QPA_PLATFORM").isEmpty()) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    QStandardPaths::setTestModeEnabled(true);
-    const QTemporaryDir cache;
-    qputenv("RESTIC_CACHE_DIR", QFile::encodeName(cache.path()));
     QApplication application(argc, argv);
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 10)); // as on most desktops
     return QTest::qExec(tests, argc, argv);
 }

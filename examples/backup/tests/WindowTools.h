@@ -2,18 +2,17 @@
 #ifndef WINDOWTOOLS_H
 #define WINDOWTOOLS_H
 
-#include "BackupRun.h"
 #include "FileListModel.h"
 #include "JobModel.h"
 #include "JobsTable.h"
 #include "MainWindow.h"
+#include "ResticTestTools.h"
 
 #include <SpinBox.h>
 
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -60,8 +59,9 @@ public:
     /// Starts the backup of "Numbers", which takes minutes.
     void startLongRun() const;
 
+    Sandbox sandbox;
+
 private:
-    QTemporaryDir m_scratch;
     std::unique_ptr<MainWindow> m_window;
 };
 
@@ -71,7 +71,7 @@ void answer(QMessageBox::StandardButton button);
 /// What is done in the next dialog for a folder.
 void chooseInNextDialog(const QString &folder);
 
-/// Runs the tests without a display, the user's settings and restic's cache left alone.
+/// Runs the tests without a display.
 int runTests(QObject *tests, int argc, char **argv);
 
 #endif

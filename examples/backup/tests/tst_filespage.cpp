@@ -59,10 +59,12 @@ private slots:
     void restoresNothingIntoAFolderInUse();
     void takesThePageSizeFromItsBox();
     void hintsAtThePageSize();
+    void showsWholeSizesInALargeFont();
 };
 
 void tst_FilesPage::listsTheFilesOfTheNewestSnapshot()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.backUp(0);
 
@@ -75,6 +77,7 @@ void tst_FilesPage::listsTheFilesOfTheNewestSnapshot()
 
 void tst_FilesPage::listsTheFilesOfTheChosenSnapshot()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.backUp(0);
     window.write(QStringLiteral("letters/new"), "third");
@@ -90,6 +93,7 @@ void tst_FilesPage::listsTheFilesOfTheChosenSnapshot()
 
 void tst_FilesPage::offersTheSnapshotsOfTheJobOnly()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.backUp(1);
     window.backUp(0);
@@ -103,6 +107,7 @@ void tst_FilesPage::offersTheSnapshotsOfTheJobOnly()
 
 void tst_FilesPage::looksAgainAfterABackup()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.backUp(0);
     window.showPage(filesPage);
@@ -115,6 +120,7 @@ void tst_FilesPage::looksAgainAfterABackup()
 
 void tst_FilesPage::asksForAMissingPassword()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.backUp(1);
     window.table()->setCurrentIndex(window.jobs()->index(0, JobModel::Name));
@@ -132,6 +138,7 @@ void tst_FilesPage::asksForAMissingPassword()
 
 void tst_FilesPage::tellsAWrongPassword()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.backUp(0);
     window.typePassword(0, QStringLiteral("wrong"));
@@ -156,6 +163,7 @@ void tst_FilesPage::listsNothingForAJobWithoutRepository()
 
 void tst_FilesPage::restoresTheChosenSnapshot()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.backUp(0);
     window.write(QStringLiteral("letters/a"), "changed");
@@ -176,6 +184,7 @@ void tst_FilesPage::restoresTheChosenSnapshot()
 
 void tst_FilesPage::restoresNothingIntoAFolderInUse()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.backUp(0);
     window.showPage(filesPage);
@@ -192,6 +201,7 @@ void tst_FilesPage::restoresNothingIntoAFolderInUse()
 
 void tst_FilesPage::takesThePageSizeFromItsBox()
 {
+    NEEDS_RESTIC()
     const Window window;
     for (int number = 0; number < 25; ++number) {
         window.write(QStringLiteral("letters/f%1").arg(number), "x");
@@ -214,6 +224,20 @@ void tst_FilesPage::hintsAtThePageSize()
     QTest::mouseClick(window.spinBox(), Qt::LeftButton);
 
     QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("10000")));
+}
+
+void tst_FilesPage::showsWholeSizesInALargeFont()
+{
+    const QFont usual = QApplication::font();
+    QApplication::setFont(QFont(usual.family(), 18));
+
+    const Window window;
+    window.showPage(filesPage);
+
+    QApplication::setFont(usual);
+    const FileListTableView *list = window.find<FileListTableView>();
+    QVERIFY(list->fontMetrics().horizontalAdvance(QStringLiteral("1023 MB"))
+            < list->columnWidth(FileListModel::Size));
 }
 
 int main(int argc, char **argv)

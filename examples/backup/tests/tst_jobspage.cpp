@@ -41,6 +41,7 @@ private slots:
 
 void tst_JobsPage::makesTheRepositoryAndBacksUp()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.typePassword(0, QStringLiteral("secret"));
 
@@ -57,6 +58,7 @@ void tst_JobsPage::makesTheRepositoryAndBacksUp()
 
 void tst_JobsPage::makesNoRepositoryWithoutConsent()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.typePassword(0, QStringLiteral("secret"));
     window.click(0, JobModel::Run);
@@ -71,6 +73,7 @@ void tst_JobsPage::makesNoRepositoryWithoutConsent()
 
 void tst_JobsPage::tellsAWrongPassword()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.backUp(0);
     window.typePassword(0, QStringLiteral("wrong"));
@@ -82,6 +85,7 @@ void tst_JobsPage::tellsAWrongPassword()
 
 void tst_JobsPage::asksForAMissingPassword()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.backUp(1);
     window.click(0, JobModel::Run);
@@ -132,6 +136,7 @@ void tst_JobsPage::asksForAMissingRepository()
 
 void tst_JobsPage::cancelsFromTheButtonOfTheRow()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.startLongRun();
 
@@ -144,6 +149,7 @@ void tst_JobsPage::cancelsFromTheButtonOfTheRow()
 
 void tst_JobsPage::keepsTheHeadlineWhenAnotherRunIsRefused()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.startLongRun();
 
@@ -156,6 +162,7 @@ void tst_JobsPage::keepsTheHeadlineWhenAnotherRunIsRefused()
 
 void tst_JobsPage::marksTheRunningRowInARebuiltTable()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.startLongRun();
 
@@ -168,6 +175,7 @@ void tst_JobsPage::marksTheRunningRowInARebuiltTable()
 
 void tst_JobsPage::marksTheRunningRowWhenAnotherIsRemoved()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.startLongRun();
     window.click(0, JobModel::Remove);
@@ -182,6 +190,7 @@ void tst_JobsPage::marksTheRunningRowWhenAnotherIsRemoved()
 
 void tst_JobsPage::keepsAJobThatRuns()
 {
+    NEEDS_RESTIC()
     const Window window;
     window.startLongRun();
 
