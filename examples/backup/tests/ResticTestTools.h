@@ -62,6 +62,8 @@ QString realRestic();
 /// The program that fakes restic's output.
 QString fakeRestic();
 
+/// Arguments and environment of all processes.
+QByteArray allProcesses();
 QByteArray readFile(const QByteArray &path);
 void writeFile(const QByteArray &path, const QByteArray &content);
 /// Flips a byte in the middle of the largest pack.

@@ -192,18 +192,6 @@ void tst_Client::namesNeedNoLocale()
 
 namespace {
 
-/// Arguments and environment of all processes.
-QByteArray allProcesses()
-{
-    QByteArray result;
-    const QStringList ids = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
-    for (const QString &id : ids) {
-        result += readFile("/proc/" + id.toLatin1() + "/cmdline") + '\n';
-        result += readFile("/proc/" + id.toLatin1() + "/environ") + '\n';
-    }
-    return result;
-}
-
 QByteArray allFiles(const QByteArray &folder)
 {
     QByteArray result;
