@@ -197,7 +197,8 @@ bool Sandbox::isSound() const
 {
     int status = -1;
     restic({QStringLiteral("unlock")}, &status);
-    const QByteArray output = restic({QStringLiteral("check"), QStringLiteral("--read-data")}, &status);
+    const QByteArray output
+        = restic({QStringLiteral("check"), QStringLiteral("--read-data")}, &status);
     if (status != 0) {
         qDebug("%s", output.constData());
     }
@@ -206,7 +207,8 @@ bool Sandbox::isSound() const
 
 int Sandbox::snapshotCount() const
 {
-    return int(restic({QStringLiteral("snapshots"), QStringLiteral("--json")}).count("\"short_id\""));
+    return int(
+        restic({QStringLiteral("snapshots"), QStringLiteral("--json")}).count("\"short_id\""));
 }
 
 void Sandbox::useProgram(const QString &program) const
@@ -257,6 +259,17 @@ QString fakeRestic()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/fakerestic");
 }
 
+QByteArray allProcesses()
+{
+    QByteArray result;
+    const QStringList ids = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
+    for (const QString &id : ids) {
+        result += readFile("/proc/" + id.toLatin1() + "/cmdline") + '\n';
+        result += readFile("/proc/" + id.toLatin1() + "/environ") + '\n';
+    }
+    return result;
+}
+
 QByteArray readFile(const QByteArray &path)
 {
     // Through the system's own calls: the path may be no text.
@@ -272,8 +285,7 @@ QByteArray readFile(const QByteArray &path)
 void writeFile(const QByteArray &path, const QByteArray &content)
 {
     QFile file;
-    const int descriptor
-        = ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    const int descriptor = ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     QVERIFY2(descriptor >= 0, path.constData());
     QVERIFY(file.open(descriptor, QIODevice::WriteOnly, QFile::AutoCloseHandle));
     QCOMPARE(file.write(content), qint64(content.size()));
@@ -298,10 +310,17 @@ void damage(const QByteArray &repository)
 
 void makeOddTree(const QByteArray &folder)
 {
-    const QByteArray names[]
-        = {"plain",       "two\nlines", "\xff\xfe not text", QByteArray(255, 'x'),
-           " spaces ",    "-dash",      "quote\"'\\",        "tab\tbell\a",
-           "\xc3\xa4\xc3\xb6\xe2\x82\xac", "*?[glob]",   "{\"json\":1}"};
+    const QByteArray names[] = {"plain",
+                                "two\nlines",
+                                "\xff\xfe not text",
+                                QByteArray(255, 'x'),
+                                " spaces ",
+                                "-dash",
+                                "quote\"'\\",
+                                "tab\tbell\a",
+                                "\xc3\xa4\xc3\xb6\xe2\x82\xac",
+                                "*?[glob]",
+                                "{\"json\":1}"};
     long seconds = 1000000000;
     for (const QByteArray &name : names) {
         writeFile(folder + '/' + name, "content of " + name);

@@ -18,7 +18,8 @@ struct Record
 };
 
 /// A source, a repository, and a cache and settings for restic that are not the user's: everything
-/// below one temporary folder. Relative paths are bytes, since some of the names tested are no text.
+/// below one temporary folder. Relative paths are bytes, since some of the names tested are no
+/// text.
 class Sandbox
 {
 public:
@@ -61,6 +62,8 @@ QString realRestic();
 /// The program that fakes restic's output.
 QString fakeRestic();
 
+/// Arguments and environment of all processes.
+QByteArray allProcesses();
 QByteArray readFile(const QByteArray &path);
 void writeFile(const QByteArray &path, const QByteArray &content);
 /// Flips a byte in the middle of the largest pack.
@@ -70,9 +73,9 @@ void makeOddTree(const QByteArray &folder);
 /// What there is below a folder: names, types, modes, times, link targets, contents.
 QByteArray description(const QByteArray &folder);
 
-#define NEEDS_RESTIC()                                                       \
-    if (realRestic().isEmpty()) {                                            \
-        QSKIP("There is no restic that is new enough (package restic).");    \
+#define NEEDS_RESTIC()                                                    \
+    if (realRestic().isEmpty()) {                                         \
+        QSKIP("There is no restic that is new enough (package restic)."); \
     }
 
 #endif

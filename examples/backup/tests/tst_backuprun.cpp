@@ -155,10 +155,18 @@ void tst_BackupRun::whatIsMissingIsTold_data()
     QTest::addColumn<QString>("repository");
     QTest::addColumn<QString>("program");
     QTest::addColumn<int>("kind");
-    QTest::newRow("source") << "/no/such/folder" << "" << "" << int(Outcome::NoSource);
-    QTest::newRow("no source typed") << " " << "" << "" << int(Outcome::NoSource);
-    QTest::newRow("no repository typed") << "" << " " << "" << int(Outcome::NoRepository);
-    QTest::newRow("restic") << "" << "" << "/no/such/restic" << int(Outcome::Missing);
+    QTest::newRow("source") << "/no/such/folder"
+                            << ""
+                            << "" << int(Outcome::NoSource);
+    QTest::newRow("no source typed") << " "
+                                     << ""
+                                     << "" << int(Outcome::NoSource);
+    QTest::newRow("no repository typed") << ""
+                                         << " "
+                                         << "" << int(Outcome::NoRepository);
+    QTest::newRow("restic") << ""
+                            << ""
+                            << "/no/such/restic" << int(Outcome::Missing);
 }
 
 void tst_BackupRun::whatIsMissingIsTold()

@@ -86,7 +86,8 @@ void tst_ResticRun::messagesComeLineByLine()
     QSignalSpy messages(&restic, &ResticRun::message);
     QCOMPARE(run(&restic).skippedLines, 0);
     QCOMPARE(messages.count(), 3);
-    QCOMPARE(messages.at(0).first().toJsonDocument().object().value(QStringLiteral("a")).toInt(), 1);
+    QCOMPARE(messages.at(0).first().toJsonDocument().object().value(QStringLiteral("a")).toInt(),
+             1);
     QCOMPARE(messages.at(1).first().toJsonDocument().array().size(), 1);
 }
 
@@ -134,7 +135,8 @@ void tst_ResticRun::aLineThatNeverEndsDoesNotFillTheMemory()
     if (status.open(QIODevice::ReadOnly)) {
         const QByteArray text = status.readAll();
         const QByteArray peak = text.mid(text.indexOf("VmHWM:") + 6, 20).simplified();
-        // The test itself has held the 100 MB, and its file's name; restic's output must not add them.
+        // The test itself has held the 100 MB, and its file's name; restic's output must not add
+        // them.
         QVERIFY2(peak.split(' ').first().toInt() < 350 * 1024, peak.constData());
     }
 }
