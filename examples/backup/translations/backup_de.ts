@@ -283,18 +283,6 @@ Endstatus:
         <translation>Ordner wählen ...</translation>
     </message>
     <message>
-        <source>Cancel %1</source>
-        <translation>%1 abbrechen</translation>
-    </message>
-    <message>
-        <source>Run %1</source>
-        <translation>%1 starten</translation>
-    </message>
-    <message>
-        <source>Remove %1</source>
-        <translation>%1 entfernen</translation>
-    </message>
-    <message>
         <source>Password: asked for</source>
         <translation>Passwort: wird erfragt</translation>
     </message>
@@ -310,28 +298,24 @@ Endstatus:
         <source>Verify: yes</source>
         <translation>Prüfen: ja</translation>
     </message>
+    <message>
+        <source>Cancel %1</source>
+        <translation>%1 abbrechen</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>%1 starten</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
 </context>
 <context>
     <name>JobsPage</name>
     <message>
-        <source>New backup</source>
-        <translation>Neue Sicherung</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; was not started: there is one run at a time.</source>
-        <translation>„%1“ wurde nicht gestartet: Es läuft immer nur eines.</translation>
-    </message>
-    <message>
-        <source>Say first where the backups of &quot;%1&quot; are to be kept.</source>
-        <translation>Zuerst muss gesagt sein, wo die Sicherungen von „%1“ aufbewahrt werden.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is running. Cancel it before you remove it.</source>
-        <translation>„%1“ läuft. Vor dem Entfernen muss es abgebrochen werden.</translation>
-    </message>
-    <message>
-        <source>Remove &quot;%1&quot; from the list? Its backups stay in the repository.</source>
-        <translation>„%1“ aus der Liste entfernen? Die Sicherungen bleiben im Repository.</translation>
+        <source>Backups</source>
+        <translation>Sicherungen</translation>
     </message>
     <message>
         <source> KB/s</source>
@@ -346,12 +330,32 @@ Endstatus:
         <translation>Wie viel der nächste Lauf in einer Sekunde höchstens ins Repository schreibt</translation>
     </message>
     <message>
+        <source>There is nothing to back up yet.
+
+&quot;New backup&quot; adds a row. Choose the folder to back up and the repository that is to keep the backups: another folder, or any address that restic takes. Then press &quot;Run&quot;.</source>
+        <translation>Es gibt noch nichts zu sichern.
+
+„Neue Sicherung“ fügt eine Zeile hinzu. Wählen Sie den Ordner, der gesichert werden soll, und das Repository, das die Sicherungen aufbewahrt: einen anderen Ordner oder jede Adresse, die restic kennt. Dann drücken Sie „Starten“.</translation>
+    </message>
+    <message>
         <source>&amp;New backup</source>
         <translation>&amp;Neue Sicherung</translation>
     </message>
     <message>
         <source>Bandwidth &amp;limit:</source>
         <translation>Band&amp;breite höchstens:</translation>
+    </message>
+    <message>
+        <source>New backup</source>
+        <translation>Neue Sicherung</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not started: there is one run at a time.</source>
+        <translation>„%1“ wurde nicht gestartet: Es läuft immer nur eines.</translation>
+    </message>
+    <message>
+        <source>Say first where the backups of &quot;%1&quot; are to be kept.</source>
+        <translation>Zuerst muss gesagt sein, wo die Sicherungen von „%1“ aufbewahrt werden.</translation>
     </message>
     <message>
         <source>Password of the repository %1:</source>
@@ -361,20 +365,13 @@ Endstatus:
         <source>Backing up &quot;%1&quot;</source>
         <translation>Sichert „%1“</translation>
     </message>
-</context>
-<context>
-    <name>JobsTable</name>
     <message>
-        <source>Backups</source>
-        <translation>Sicherungen</translation>
+        <source>&quot;%1&quot; is running. Cancel it before you remove it.</source>
+        <translation>„%1“ läuft. Vor dem Entfernen muss es abgebrochen werden.</translation>
     </message>
     <message>
-        <source>There is nothing to back up yet.
-
-&quot;New backup&quot; adds a row. Choose the folder to back up and the repository that is to keep the backups: another folder, or any address that restic takes. Then press &quot;Run&quot;.</source>
-        <translation>Es gibt noch nichts zu sichern.
-
-„Neue Sicherung“ fügt eine Zeile hinzu. Wählen Sie den Ordner, der gesichert werden soll, und das Repository, das die Sicherungen aufbewahrt: einen anderen Ordner oder jede Adresse, die restic kennt. Dann drücken Sie „Starten“.</translation>
+        <source>Remove &quot;%1&quot; from the list? Its backups stay in the repository.</source>
+        <translation>„%1“ aus der Liste entfernen? Die Sicherungen bleiben im Repository.</translation>
     </message>
     <message>
         <source>Folder to back up</source>

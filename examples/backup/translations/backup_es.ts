@@ -170,15 +170,15 @@ Estado de salida:
     <name>FileListModel</name>
     <message>
         <source>folder</source>
-        <translation>carpeta</translation>
+        <translation>carp.</translation>
     </message>
     <message>
         <source>link</source>
-        <translation>enlace</translation>
+        <translation>enl.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation>archivo</translation>
+        <translation>arch.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -283,18 +283,6 @@ Estado de salida:
         <translation>Elegir una carpeta...</translation>
     </message>
     <message>
-        <source>Cancel %1</source>
-        <translation>Cancelar %1</translation>
-    </message>
-    <message>
-        <source>Run %1</source>
-        <translation>Iniciar %1</translation>
-    </message>
-    <message>
-        <source>Remove %1</source>
-        <translation>Quitar %1</translation>
-    </message>
-    <message>
         <source>Password: asked for</source>
         <translation>Contraseña: se pedirá</translation>
     </message>
@@ -310,28 +298,24 @@ Estado de salida:
         <source>Verify: yes</source>
         <translation>Verificar: sí</translation>
     </message>
+    <message>
+        <source>Cancel %1</source>
+        <translation>Cancelar %1</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>Iniciar %1</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>Quitar %1</translation>
+    </message>
 </context>
 <context>
     <name>JobsPage</name>
     <message>
-        <source>New backup</source>
-        <translation>Copia nueva</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; was not started: there is one run at a time.</source>
-        <translation>«%1» no se inició: solo se hace una cosa a la vez.</translation>
-    </message>
-    <message>
-        <source>Say first where the backups of &quot;%1&quot; are to be kept.</source>
-        <translation>Indique primero dónde se guardan las copias de «%1».</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is running. Cancel it before you remove it.</source>
-        <translation>«%1» está en marcha. Cancélela antes de quitarla.</translation>
-    </message>
-    <message>
-        <source>Remove &quot;%1&quot; from the list? Its backups stay in the repository.</source>
-        <translation>¿Quitar «%1» de la lista? Sus copias se quedan en el repositorio.</translation>
+        <source>Backups</source>
+        <translation>Copias</translation>
     </message>
     <message>
         <source> KB/s</source>
@@ -346,12 +330,32 @@ Estado de salida:
         <translation>Cuánto escribe la próxima vez en el repositorio por segundo como mucho</translation>
     </message>
     <message>
+        <source>There is nothing to back up yet.
+
+&quot;New backup&quot; adds a row. Choose the folder to back up and the repository that is to keep the backups: another folder, or any address that restic takes. Then press &quot;Run&quot;.</source>
+        <translation>Aún no hay nada que copiar.
+
+«Copia nueva» añade una fila. Elija la carpeta que se ha de copiar y el repositorio que guardará las copias: otra carpeta o cualquier dirección que restic acepte. Después pulse «Iniciar».</translation>
+    </message>
+    <message>
         <source>&amp;New backup</source>
         <translation>Copia &amp;nueva</translation>
     </message>
     <message>
         <source>Bandwidth &amp;limit:</source>
         <translation>&amp;Límite de velocidad:</translation>
+    </message>
+    <message>
+        <source>New backup</source>
+        <translation>Copia nueva</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not started: there is one run at a time.</source>
+        <translation>«%1» no se inició: solo se hace una cosa a la vez.</translation>
+    </message>
+    <message>
+        <source>Say first where the backups of &quot;%1&quot; are to be kept.</source>
+        <translation>Indique primero dónde se guardan las copias de «%1».</translation>
     </message>
     <message>
         <source>Password of the repository %1:</source>
@@ -361,20 +365,13 @@ Estado de salida:
         <source>Backing up &quot;%1&quot;</source>
         <translation>Copiando «%1»</translation>
     </message>
-</context>
-<context>
-    <name>JobsTable</name>
     <message>
-        <source>Backups</source>
-        <translation>Copias</translation>
+        <source>&quot;%1&quot; is running. Cancel it before you remove it.</source>
+        <translation>«%1» está en marcha. Cancélela antes de quitarla.</translation>
     </message>
     <message>
-        <source>There is nothing to back up yet.
-
-&quot;New backup&quot; adds a row. Choose the folder to back up and the repository that is to keep the backups: another folder, or any address that restic takes. Then press &quot;Run&quot;.</source>
-        <translation>Aún no hay nada que copiar.
-
-«Copia nueva» añade una fila. Elija la carpeta que se ha de copiar y el repositorio que guardará las copias: otra carpeta o cualquier dirección que restic acepte. Después pulse «Iniciar».</translation>
+        <source>Remove &quot;%1&quot; from the list? Its backups stay in the repository.</source>
+        <translation>¿Quitar «%1» de la lista? Sus copias se quedan en el repositorio.</translation>
     </message>
     <message>
         <source>Folder to back up</source>
