@@ -42,7 +42,7 @@ QString readLine()
 {
     std::string line;
     std::getline(std::cin, line);
-    return QString::fromStdString(line).remove(QLatin1Char('\r'));
+    return QString::fromStdString(line.substr(0, line.find('\r')));
 }
 
 } // namespace

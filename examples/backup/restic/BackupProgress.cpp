@@ -6,22 +6,16 @@
 #include <QJsonArray>
 #include <QLocale>
 
-namespace {
-
-qint64 number(const QJsonObject &object, const char *key)
-{
-    return static_cast<qint64>(object.value(QLatin1String(key)).toDouble());
-}
-
-} // namespace
-
 void BackupProgress::read(const QJsonObject &status)
 {
+    const auto number = [&status](const char *key) {
+        return static_cast<qint64>(status.value(QLatin1String(key)).toDouble());
+    };
     fraction = status.value(QStringLiteral("percent_done")).toDouble();
-    bytesDone = number(status, "bytes_done");
-    bytesTotal = number(status, "total_bytes");
-    filesDone = number(status, "files_done");
-    filesTotal = number(status, "total_files");
+    bytesDone = number("bytes_done");
+    bytesTotal = number("total_bytes");
+    filesDone = number("files_done");
+    filesTotal = number("total_files");
     currentFile = status.value(QStringLiteral("current_files")).toArray().first().toString();
 }
 

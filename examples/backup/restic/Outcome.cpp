@@ -108,6 +108,19 @@ QString Outcome::text() const
     return sentences.join(QLatin1Char(' '));
 }
 
+void Outcome::readSummary(const QJsonObject &summary)
+{
+    const auto number = [&summary](const char *key) {
+        return static_cast<qint64>(summary.value(QLatin1String(key)).toDouble());
+    };
+    snapshot = summary.value(QStringLiteral("snapshot_id")).toString();
+    newFiles = number("files_new");
+    changedFiles = number("files_changed");
+    unchangedFiles = number("files_unmodified");
+    bytesRead = number("total_bytes_processed");
+    bytesAdded = number("data_added");
+}
+
 Outcome::Kind Outcome::kindOf(int exitStatus, const QString &errors)
 {
     if (exitStatus == 0) {

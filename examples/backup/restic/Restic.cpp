@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSettings>
 
 QString Restic::program()
@@ -15,7 +16,7 @@ QString Restic::program()
 
 QVersionNumber Restic::minimumVersion()
 {
-    return QVersionNumber(0, 11);
+    return QVersionNumber(0, 14);
 }
 
 bool Restic::isNewEnough(const QString &version)
@@ -49,4 +50,21 @@ QString Restic::sourcePath(const QString &typed)
 {
     const QFileInfo source(address(typed));
     return source.exists() ? source.canonicalFilePath() : source.absoluteFilePath();
+}
+
+QStringList Restic::backUpArguments(const BackupJob &job, int kibibytesPerSecond)
+{
+    const QString source = sourcePath(job.source);
+    QStringList result = {QStringLiteral("backup"), QStringLiteral("--json")};
+    if (kibibytesPerSecond > 0) {
+        result += {QStringLiteral("--limit-upload"), QString::number(kibibytesPerSecond)};
+    }
+    // A repository inside the source would grow by itself with each run.
+    QString repository = sourcePath(job.repository);
+    if (QFileInfo::exists(repository) && repository != source) {
+        const QRegularExpression special(QStringLiteral("([*?\\[\\\\])"));
+        result
+            += {QStringLiteral("--exclude"), repository.replace(special, QStringLiteral("\\\\1"))};
+    }
+    return result << QStringLiteral("--") << source;
 }
