@@ -30,7 +30,11 @@ QList<BackupJob> JobStore::load() const
 {
     QSettings settings(m_filePath, QSettings::IniFormat);
     QList<BackupJob> jobs;
-    const int count = settings.beginReadArray(jobsArray);
+    // Version 1.0 wrote no count.
+    settings.beginGroup(jobsArray);
+    const int count = int(settings.childGroups().size());
+    settings.endGroup();
+    settings.beginReadArray(jobsArray);
     for (int number = 0; number < count; ++number) {
         settings.setArrayIndex(number);
         BackupJob job;
