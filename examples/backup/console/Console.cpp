@@ -38,8 +38,8 @@ void listSnapshots(const QJsonDocument &message)
     for (const Snapshot &snapshot : snapshots) {
         const QStringList columns
             = {snapshot.shortId, QLocale().toString(snapshot.time, QLocale::ShortFormat),
-               snapshot.host, snapshot.paths.join(QStringLiteral(", "))};
-        say(stdout, columns.join(QStringLiteral("  ")));
+               snapshot.host, snapshot.paths.join(", ")};
+        say(stdout, columns.join("  "));
     }
 }
 
@@ -97,8 +97,7 @@ int work(const CommandLine &line)
     } else if (line.task == CommandLine::Restore) {
         run.restore(job, line.snapshot, line.folder);
     } else {
-        listing.start(job.repository, job.password,
-                      {QStringLiteral("snapshots"), QStringLiteral("--json")});
+        listing.start(job.repository, job.password, {"snapshots", "--json"});
     }
     return QCoreApplication::exec();
 }

@@ -34,7 +34,7 @@ bool setEcho(bool on)
 {
     QProcess stty;
     stty.setInputChannelMode(QProcess::ForwardedInputChannel);
-    stty.start(QStringLiteral("stty"), {on ? QStringLiteral("echo") : QStringLiteral("-echo")});
+    stty.start("stty", {on ? "echo" : "-echo"});
     return stty.waitForFinished() && stty.exitCode() == 0;
 }
 

@@ -11,12 +11,12 @@ void BackupProgress::read(const QJsonObject &status)
     const auto number = [&status](const char *key) {
         return static_cast<qint64>(status.value(QLatin1String(key)).toDouble());
     };
-    fraction = status.value(QStringLiteral("percent_done")).toDouble();
+    fraction = status.value("percent_done").toDouble();
     bytesDone = number("bytes_done");
     bytesTotal = number("total_bytes");
     filesDone = number("files_done");
     filesTotal = number("total_files");
-    currentFile = status.value(QStringLiteral("current_files")).toArray().first().toString();
+    currentFile = status.value("current_files").toArray().first().toString();
 }
 
 QString BackupProgress::text() const

@@ -108,15 +108,14 @@ QStringList BackupRun::arguments() const
     case BackUp:
         return Restic::backUpArguments(m_job, m_uploadLimit);
     case Verify:
-        return {QStringLiteral("check"), QStringLiteral("--read-data")};
+        return {"check", "--read-data"};
     case Restore:
-        return {QStringLiteral("restore"), QStringLiteral("--target"), m_folder,
-                QStringLiteral("--"), m_snapshot};
+        return {"restore", "--target", m_folder, "--", m_snapshot};
     case Create:
-        return {QStringLiteral("init")};
+        return {"init"};
     case Unlock:
     case TidyUp:
-        return {QStringLiteral("unlock")};
+        return {"unlock"};
     case Nothing:
         break;
     }
@@ -126,11 +125,11 @@ QStringList BackupRun::arguments() const
 void BackupRun::readMessage(const QJsonDocument &message)
 {
     const QJsonObject object = message.object();
-    const QString type = object.value(QStringLiteral("message_type")).toString();
-    if (type == QLatin1String("status")) {
+    const QString type = object.value("message_type").toString();
+    if (type == "status") {
         m_progress.read(object);
         emit progressChanged(m_progress);
-    } else if (type == QLatin1String("summary")) {
+    } else if (type == "summary") {
         m_outcome.readSummary(object);
         m_progress.bytesDone = m_outcome.bytesRead;
     }
@@ -139,9 +138,9 @@ void BackupRun::readMessage(const QJsonDocument &message)
 // Such as "[0:07] 42.00%  21 / 50 packs"; verifying counts other things before the packs.
 void BackupRun::readText(const QString &line)
 {
-    static const QRegularExpression pattern(QStringLiteral("([0-9.]+)%"));
+    static const QRegularExpression pattern("([0-9.]+)%");
     const QRegularExpressionMatch match = pattern.match(line);
-    if (match.hasMatch() && (m_step == Restore || line.contains(QLatin1String("packs")))) {
+    if (match.hasMatch() && (m_step == Restore || line.contains("packs"))) {
         m_progress.fraction = match.captured(1).toDouble() / 100;
         emit progressChanged(m_progress);
     }

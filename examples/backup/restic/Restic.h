@@ -22,6 +22,8 @@ bool isNewEnough(const QString &version);
 /// This process's environment, without what would beat the password from the standard input.
 QProcessEnvironment environment(const QString &repository);
 
+/// What each command but "version" begins with.
+QStringList globalOptions();
 /// What the user typed, with "~" for the home folder.
 QString address(const QString &typed);
 /// What a backup is called with; a limit of 0 is none.

@@ -230,7 +230,6 @@ void tst_ResticRun::cancellingEndsIt()
         QObject::connect(&restic, &ResticRun::message, &restic, &ResticRun::cancel);
     }
     QCOMPARE(run(&restic).kind, Outcome::Cancelled);
-    QVERIFY(!restic.isRunning());
     fake("");
     QCOMPARE(run(&restic).kind, Outcome::Done);
 }
