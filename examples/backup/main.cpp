@@ -26,7 +26,7 @@ void expectUtf8()
 int runInWindow(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    Translators translators((QLocale()));
+    Translators translators(QCoreApplication::applicationDirPath(), QLocale());
     const CommandLine line = CommandLine::parse(QCoreApplication::arguments());
     if (!line.error.isEmpty()) {
         return Console::run(line);
@@ -49,6 +49,6 @@ int main(int argc, char **argv)
         return runInWindow(argc, argv);
     }
     QCoreApplication application(argc, argv);
-    const Translators translators((QLocale()));
+    const Translators translators(QCoreApplication::applicationDirPath(), QLocale());
     return Console::run(CommandLine::parse(QCoreApplication::arguments()));
 }

@@ -5,6 +5,7 @@
 
 #include <QChildEvent>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QHeaderView>
@@ -74,12 +75,20 @@ void JobsTable::setUpColumns()
     setTabKeyNavigation(false);
 }
 
+// As wide as the longest text; the two columns of paths share the rest.
 void JobsTable::setUpWidths()
 {
-    const int letter = fontMetrics().averageCharWidth();
-    const QList<int> letters = {16, 20, 20, 12, 12, 11, 11}; // enough in each language
-    for (int column = 0; column < letters.size(); ++column) {
-        resizeSection(column, letters.at(column) * letter);
+    const QString check = QCoreApplication::translate("CheckItemDelegate", verifyLabel);
+    const QStringList texts = {QStringLiteral("Some documents"),
+                               QString(),
+                               QString(),
+                               m_jobs->headerData(JobModel::Password, Qt::Horizontal).toString(),
+                               QStringLiteral("[x]") + check,
+                               EditableTableView::tr(cancelCaption),
+                               EditableTableView::tr(removeCaption)};
+    for (int column = 0; column < texts.size(); ++column) {
+        const QString spaced = texts.at(column) + QStringLiteral("--");
+        resizeSection(column, fontMetrics().horizontalAdvance(spaced));
     }
 }
 

@@ -41,6 +41,7 @@ RunPanel::RunPanel(BackupRun *run, QWidget *parent)
     m_details->hide();
 
     QGridLayout *layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_headline, 0, 0, 1, 2);
     layout->addWidget(m_bar, 1, 0);
     layout->addWidget(m_cancel, 1, 1);

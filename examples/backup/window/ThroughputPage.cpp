@@ -7,6 +7,7 @@
 #include <UpdatablePlot.h>
 
 #include <QLabel>
+#include <QSizePolicy>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -22,6 +23,8 @@ ThroughputPage::ThroughputPage(BackupRun *run, QWidget *parent)
     m_plot->setBgColor(QStringLiteral("white"));
     m_plot->setCurveColor(QStringLiteral("steelblue"));
     m_plot->setAccessibleName(tr("Bytes done in each second"));
+    // Also where there is less room than a chart of Qwt's asks for.
+    m_plot->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     QVBoxLayout *layout = new QVBoxLayout(this);
     layout->addWidget(m_plot, 1);
     layout->addWidget(m_now);

@@ -2,22 +2,10 @@
 #include "Translators.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QLocale>
 
-namespace {
-
-// Where there is no translation, the translator is empty and the texts stay English.
-void load(QTranslator *translator, const QLocale &locale, const QString &name,
-          const QString &folder)
-{
-    const bool isFound = translator->load(locale, name, QStringLiteral("_"), folder);
-    Q_UNUSED(isFound)
-}
-
-} // namespace
-
-Translators::Translators(const QLocale &locale)
+Translators::Translators(const QString &programFolder, const QLocale &locale)
+    : m_folder(programFolder + QStringLiteral("/translations"))
 {
     for (QTranslator *translator : {&m_qt, &m_library, &m_program}) {
         QCoreApplication::installTranslator(translator);
@@ -27,10 +15,11 @@ Translators::Translators(const QLocale &locale)
 
 void Translators::speak(const QLocale &locale)
 {
-    const QDir folder(QCoreApplication::applicationDirPath());
+    const QString separator(QLatin1Char('_'));
     QLocale::setDefault(locale);
-    load(&m_program, locale, QStringLiteral("backup"),
-         folder.filePath(QStringLiteral("translations")));
-    load(&m_library, locale, QStringLiteral("tessaline"), QStringLiteral(TESSALINE_TRANSLATIONS));
-    load(&m_qt, locale, QStringLiteral("qtbase"), QStringLiteral(QT_TRANSLATIONS));
+    // Without a translation they are empty, and the texts stay English.
+    (void)m_qt.load(locale, QStringLiteral("qtbase"), separator, QStringLiteral(QT_TRANSLATIONS));
+    (void)m_library.load(locale, QStringLiteral("tessaline"), separator,
+                         QStringLiteral(TESSALINE_TRANSLATIONS));
+    (void)m_program.load(locale, QStringLiteral("backup"), separator, m_folder);
 }
