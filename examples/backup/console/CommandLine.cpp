@@ -6,34 +6,6 @@
 
 namespace {
 
-const struct
-{
-    const char *name;
-    const char *value;
-    const char *description;
-} options[] = {
-    {"source", "FOLDER", QT_TRANSLATE_NOOP("CommandLine", "Back up FOLDER.")},
-    {"target", "REPOSITORY",
-     QT_TRANSLATE_NOOP("CommandLine", "A folder, or an address such as sftp:host:/path.")},
-    {"run", "", QT_TRANSLATE_NOOP("CommandLine", "Back up the source into the target.")},
-    {"verify", "",
-     QT_TRANSLATE_NOOP("CommandLine",
-                       "Read all of the target back; after the backup if with --run.")},
-    {"restore", "SNAPSHOT",
-     QT_TRANSLATE_NOOP("CommandLine",
-                       "Restore SNAPSHOT, or the \"latest\", from the target into the "
-                       "folder named last, which must be empty or new.")},
-    {"snapshots", "", QT_TRANSLATE_NOOP("CommandLine", "List the snapshots in the target.")},
-    {"init", "", QT_TRANSLATE_NOOP("CommandLine", "Make the repository if it is not there.")},
-    {"unlock", "", QT_TRANSLATE_NOOP("CommandLine", "Remove a lock that a dead program left.")},
-    {"limit-upload", "RATE", QT_TRANSLATE_NOOP("CommandLine", "Write RATE KB a second at most.")},
-    {"quiet", "", QT_TRANSLATE_NOOP("CommandLine", "Say nothing unless something is wrong.")},
-    {"pictures", "FOLDER",
-     QT_TRANSLATE_NOOP("CommandLine", "Write pictures of the window into FOLDER.")},
-    {"version", "", QT_TRANSLATE_NOOP("CommandLine", "Show the version.")},
-    {"help", "", QT_TRANSLATE_NOOP("CommandLine", "Show this help.")},
-};
-
 const char *const exitStatusText = QT_TRANSLATE_NOOP(
     "CommandLine",
     "The password is the first line of the standard input; on a terminal it is asked for.\n"
@@ -50,29 +22,38 @@ const char *const exitStatusText = QT_TRANSLATE_NOOP(
 void addOptions(QCommandLineParser *parser)
 {
     parser->setApplicationDescription(CommandLine::tr("Backups, by restic."));
-    for (const auto &option : options) {
-        QStringList names(QLatin1String(option.name));
-        if (names.first() == QLatin1String("help")) {
-            names.prepend(QStringLiteral("h"));
-        }
-        parser->addOption(
-            {names, CommandLine::tr(option.description), QLatin1String(option.value)});
-    }
+    parser->addOptions({
+        {"source", CommandLine::tr("Back up FOLDER."), "FOLDER"},
+        {"target", CommandLine::tr("A folder, or an address such as sftp:host:/path."),
+         "REPOSITORY"},
+        {"run", CommandLine::tr("Back up the source into the target.")},
+        {"verify", CommandLine::tr("Read all of the target back; after the backup if with --run.")},
+        {"restore",
+         CommandLine::tr(
+             "Restore SNAPSHOT, or the \"latest\", from the target into the folder named "
+             "last, which must be empty or new."),
+         "SNAPSHOT"},
+        {"snapshots", CommandLine::tr("List the snapshots in the target.")},
+        {"init", CommandLine::tr("Make the repository if it is not there.")},
+        {"unlock", CommandLine::tr("Remove a lock that a dead program left.")},
+        {"limit-upload", CommandLine::tr("Write RATE KB a second at most."), "RATE"},
+        {"quiet", CommandLine::tr("Say nothing unless something is wrong.")},
+        {"pictures", CommandLine::tr("Write pictures of the window into FOLDER."), "FOLDER"},
+        {"version", CommandLine::tr("Show the version.")},
+        {{"h", "help"}, CommandLine::tr("Show this help.")},
+    });
 }
 
 CommandLine::Task taskOf(const QCommandLineParser &parser)
 {
-    const struct
-    {
-        const char *option;
-        CommandLine::Task task;
-    } tasks[] = {{"help", CommandLine::ShowHelp},         {"version", CommandLine::ShowVersion},
-                 {"pictures", CommandLine::TakePictures}, {"run", CommandLine::BackUp},
-                 {"restore", CommandLine::Restore},       {"snapshots", CommandLine::Snapshots},
-                 {"verify", CommandLine::Verify}};
+    const QPair<const char *, CommandLine::Task> tasks[]
+        = {{"help", CommandLine::ShowHelp},         {"version", CommandLine::ShowVersion},
+           {"pictures", CommandLine::TakePictures}, {"run", CommandLine::BackUp},
+           {"restore", CommandLine::Restore},       {"snapshots", CommandLine::Snapshots},
+           {"verify", CommandLine::Verify}};
     for (const auto &candidate : tasks) {
-        if (parser.isSet(QLatin1String(candidate.option))) {
-            return candidate.task;
+        if (parser.isSet(QLatin1String(candidate.first))) {
+            return candidate.second;
         }
     }
     return CommandLine::OpenWindow;
@@ -98,7 +79,7 @@ QString errorOf(const QCommandLineParser &parser, const CommandLine &line)
         return CommandLine::tr("What is to be done? Say --run, --verify, "
                                "--restore or --snapshots.");
     }
-    if (parser.isSet(QStringLiteral("limit-upload")) && line.uploadLimit <= 0) {
+    if (parser.isSet("limit-upload") && line.uploadLimit <= 0) {
         return CommandLine::tr("--limit-upload needs a number above 0.");
     }
     return QString();
@@ -116,15 +97,15 @@ CommandLine CommandLine::parse(const QStringList &arguments)
         return line;
     }
     line.task = taskOf(parser);
-    line.job.source = parser.value(QStringLiteral("source"));
-    line.job.repository = parser.value(QStringLiteral("target"));
-    line.job.verify = parser.isSet(QStringLiteral("verify"));
-    line.snapshot = parser.value(QStringLiteral("restore"));
-    line.folder = parser.value(QStringLiteral("pictures")) + parser.positionalArguments().value(0);
-    line.uploadLimit = parser.value(QStringLiteral("limit-upload")).toInt();
-    line.createsRepository = parser.isSet(QStringLiteral("init"));
-    line.removesStaleLock = parser.isSet(QStringLiteral("unlock"));
-    line.isQuiet = parser.isSet(QStringLiteral("quiet"));
+    line.job.source = parser.value("source");
+    line.job.repository = parser.value("target");
+    line.job.verify = parser.isSet("verify");
+    line.snapshot = parser.value("restore");
+    line.folder = parser.value("pictures") + parser.positionalArguments().value(0);
+    line.uploadLimit = parser.value("limit-upload").toInt();
+    line.createsRepository = parser.isSet("init");
+    line.removesStaleLock = parser.isSet("unlock");
+    line.isQuiet = parser.isSet("quiet");
     line.error = errorOf(parser, line);
     return line;
 }

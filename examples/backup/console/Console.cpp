@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "Console.h"
 
+#include "BackupRun.h"
+#include "CommandLine.h"
 #include "Snapshot.h"
 #include "Terminal.h"
 
+#include <QHash>
 #include <QLocale>
 
 #include <cstdio>
@@ -14,31 +17,11 @@ const int refusedStatus = 2;
 
 int exitStatus(Outcome::Kind kind)
 {
-    switch (kind) {
-    case Outcome::Done:
-        return 0;
-    case Outcome::Missing:
-    case Outcome::TooOld:
-    case Outcome::NoPassword:
-    case Outcome::NoRepository:
-    case Outcome::NoSource:
-    case Outcome::NotEmpty:
-        return refusedStatus;
-    case Outcome::Incomplete:
-        return 3;
-    case Outcome::Damaged:
-        return 4;
-    case Outcome::WrongPassword:
-        return 5;
-    case Outcome::Locked:
-        return 6;
-    case Outcome::Cancelled:
-    case Outcome::NoSpace:
-    case Outcome::Crashed:
-    case Outcome::Failed:
-        break;
-    }
-    return 1;
+    static const QHash<int, int> others
+        = {{Outcome::Done, 0},          {Outcome::Incomplete, 3}, {Outcome::Damaged, 4},
+           {Outcome::WrongPassword, 5}, {Outcome::Locked, 6},     {Outcome::Failed, 1},
+           {Outcome::Crashed, 1},       {Outcome::NoSpace, 1},    {Outcome::Cancelled, 1}};
+    return others.value(kind, refusedStatus);
 }
 
 void say(std::FILE *stream, const QString &text)
@@ -49,25 +32,77 @@ void say(std::FILE *stream, const QString &text)
     }
 }
 
-} // namespace
-
-Console::Console(const CommandLine &line)
-    : m_line(line)
+void listSnapshots(const QJsonDocument &message)
 {
-    m_run.setUploadLimit(line.uploadLimit);
-    if (!line.isQuiet) {
-        connect(&m_run, &BackupRun::progressChanged, this, [](const BackupProgress &progress) {
-            Terminal::showProgress(progress.text());
-        });
+    const QList<Snapshot> snapshots = Snapshot::allIn(message);
+    for (const Snapshot &snapshot : snapshots) {
+        const QStringList columns
+            = {snapshot.shortId, QLocale().toString(snapshot.time, QLocale::ShortFormat),
+               snapshot.host, snapshot.paths.join(", ")};
+        say(stdout, columns.join("  "));
     }
-    connect(&m_run, &BackupRun::problemFound, this, [](const QString &text) {
+}
+
+void end(const CommandLine &line, const Outcome &outcome)
+{
+    if (!outcome.isGood()) {
+        say(stderr, outcome.details);
+        say(stderr, outcome.text());
+    } else if (!line.isQuiet) {
+        say(stdout, outcome.text());
+    }
+    if (outcome.kind == Outcome::NoRepository && line.task == CommandLine::BackUp) {
+        say(stderr, CommandLine::tr("With --init it is made."));
+    } else if (outcome.kind == Outcome::Locked && !line.removesStaleLock) {
+        say(stderr, CommandLine::tr("With --unlock a lock that a dead program left is removed."));
+    }
+    QCoreApplication::exit(exitStatus(outcome.kind));
+}
+
+void report(BackupRun *run, const CommandLine &line)
+{
+    QObject::connect(run, &BackupRun::progressChanged, [&line](const BackupProgress &progress) {
+        if (!line.isQuiet) {
+            Terminal::showProgress(progress.text());
+        }
+    });
+    QObject::connect(run, &BackupRun::problemFound, [](const QString &text) {
         say(stderr, text);
     });
-    connect(&m_run, &BackupRun::asked, this, &Console::answer);
-    connect(&m_run, &BackupRun::finished, this, &Console::end);
-    connect(&m_listing, &ResticRun::message, this, &Console::listSnapshots);
-    connect(&m_listing, &ResticRun::finished, this, &Console::end);
+    QObject::connect(run, &BackupRun::asked, [&line, run](BackupRun::Question question) {
+        const bool isMissing = question == BackupRun::CreateRepository;
+        run->answer(isMissing ? line.createsRepository : line.removesStaleLock);
+    });
+    QObject::connect(run, &BackupRun::finished, [&line](const Outcome &outcome) {
+        end(line, outcome);
+    });
 }
+
+int work(const CommandLine &line)
+{
+    BackupJob job = line.job;
+    job.password = Terminal::readPassword();
+    BackupRun run;
+    report(&run, line);
+    run.setUploadLimit(line.uploadLimit);
+    ResticRun listing;
+    QObject::connect(&listing, &ResticRun::message, listSnapshots);
+    QObject::connect(&listing, &ResticRun::finished, [&line](const Outcome &outcome) {
+        end(line, outcome);
+    });
+    if (line.task == CommandLine::BackUp) {
+        run.backUp(job);
+    } else if (line.task == CommandLine::Verify) {
+        run.verify(job);
+    } else if (line.task == CommandLine::Restore) {
+        run.restore(job, line.snapshot, line.folder);
+    } else {
+        listing.start(job.repository, job.password, {"snapshots", "--json"});
+    }
+    return QCoreApplication::exec();
+}
+
+} // namespace
 
 int Console::run(const CommandLine &line)
 {
@@ -75,65 +110,13 @@ int Console::run(const CommandLine &line)
         say(stderr, line.error);
         return refusedStatus;
     }
-    if (line.task == CommandLine::ShowHelp || line.task == CommandLine::ShowVersion) {
-        say(stdout,
-            line.task == CommandLine::ShowHelp ? CommandLine::helpText()
-                                               : QCoreApplication::applicationVersion());
+    if (line.task == CommandLine::ShowHelp) {
+        say(stdout, CommandLine::helpText());
         return 0;
     }
-    return Console(line).work();
-}
-
-int Console::work()
-{
-    m_line.job.password = Terminal::readPassword();
-    switch (m_line.task) {
-    case CommandLine::BackUp:
-        m_run.backUp(m_line.job);
-        break;
-    case CommandLine::Verify:
-        m_run.verify(m_line.job);
-        break;
-    case CommandLine::Restore:
-        m_run.restore(m_line.job, m_line.snapshot, m_line.folder);
-        break;
-    default:
-        m_listing.start(m_line.job.repository, m_line.job.password,
-                        {QStringLiteral("snapshots"), QStringLiteral("--json")});
-        break;
+    if (line.task == CommandLine::ShowVersion) {
+        say(stdout, QCoreApplication::applicationVersion());
+        return 0;
     }
-    return QCoreApplication::exec();
-}
-
-void Console::listSnapshots(const QJsonDocument &message)
-{
-    const QList<Snapshot> snapshots = Snapshot::allIn(message);
-    for (const Snapshot &snapshot : snapshots) {
-        say(stdout,
-            QStringLiteral("%1  %2  %3  %4")
-                .arg(snapshot.shortId, QLocale().toString(snapshot.time, QLocale::ShortFormat),
-                     snapshot.host, snapshot.paths.join(QStringLiteral(", "))));
-    }
-}
-
-void Console::answer(BackupRun::Question question)
-{
-    m_run.answer(question == BackupRun::CreateRepository ? m_line.createsRepository
-                                                         : m_line.removesStaleLock);
-}
-
-void Console::end(const Outcome &outcome)
-{
-    if (!outcome.isGood()) {
-        say(stderr, outcome.details);
-        say(stderr, outcome.text());
-    } else if (!m_line.isQuiet) {
-        say(stdout, outcome.text());
-    }
-    if (outcome.kind == Outcome::NoRepository && m_line.task == CommandLine::BackUp) {
-        say(stderr, tr("With --init it is made."));
-    } else if (outcome.kind == Outcome::Locked && !m_line.removesStaleLock) {
-        say(stderr, tr("With --unlock a lock that a dead program left is removed."));
-    }
-    QCoreApplication::exit(exitStatus(outcome.kind));
+    return work(line);
 }

@@ -34,7 +34,7 @@ bool setEcho(bool on)
 {
     QProcess stty;
     stty.setInputChannelMode(QProcess::ForwardedInputChannel);
-    stty.start(QStringLiteral("stty"), {on ? QStringLiteral("echo") : QStringLiteral("-echo")});
+    stty.start("stty", {on ? "echo" : "-echo"});
     return stty.waitForFinished() && stty.exitCode() == 0;
 }
 
@@ -42,7 +42,7 @@ QString readLine()
 {
     std::string line;
     std::getline(std::cin, line);
-    return QString::fromStdString(line).remove(QLatin1Char('\r'));
+    return QString::fromStdString(line.substr(0, line.find('\r')));
 }
 
 } // namespace

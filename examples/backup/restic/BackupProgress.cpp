@@ -6,23 +6,17 @@
 #include <QJsonArray>
 #include <QLocale>
 
-namespace {
-
-qint64 number(const QJsonObject &object, const char *key)
-{
-    return static_cast<qint64>(object.value(QLatin1String(key)).toDouble());
-}
-
-} // namespace
-
 void BackupProgress::read(const QJsonObject &status)
 {
-    fraction = status.value(QStringLiteral("percent_done")).toDouble();
-    bytesDone = number(status, "bytes_done");
-    bytesTotal = number(status, "total_bytes");
-    filesDone = number(status, "files_done");
-    filesTotal = number(status, "total_files");
-    currentFile = status.value(QStringLiteral("current_files")).toArray().first().toString();
+    const auto number = [&status](const char *key) {
+        return static_cast<qint64>(status.value(QLatin1String(key)).toDouble());
+    };
+    fraction = status.value("percent_done").toDouble();
+    bytesDone = number("bytes_done");
+    bytesTotal = number("total_bytes");
+    filesDone = number("files_done");
+    filesTotal = number("total_files");
+    currentFile = status.value("current_files").toArray().first().toString();
 }
 
 QString BackupProgress::text() const

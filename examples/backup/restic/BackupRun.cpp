@@ -9,22 +9,6 @@
 #include <QRegularExpression>
 #include <QTimer>
 
-namespace {
-
-qint64 number(const QJsonObject &object, const char *key)
-{
-    return static_cast<qint64>(object.value(QLatin1String(key)).toDouble());
-}
-
-/// A pattern of restic's that means this path only.
-QString patternOf(QString path)
-{
-    static const QRegularExpression special(QStringLiteral("([*?\\[\\\\])"));
-    return path.replace(special, QStringLiteral("\\\\1"));
-}
-
-} // namespace
-
 BackupRun::BackupRun(QObject *parent)
     : QObject(parent)
 {
@@ -61,11 +45,10 @@ bool BackupRun::verify(const BackupJob &job)
 
 bool BackupRun::restore(const BackupJob &job, const QString &snapshot, const QString &folder)
 {
-    if (isRunning()) {
-        return false;
+    if (!isRunning()) {
+        m_snapshot = snapshot;
+        m_folder = QDir(Restic::address(folder)).absolutePath();
     }
-    m_snapshot = snapshot;
-    m_folder = QDir(Restic::address(folder)).absolutePath();
     return begin(job, Restore);
 }
 
@@ -110,85 +93,54 @@ Outcome::Kind BackupRun::refusal() const
 void BackupRun::startStep(Step step)
 {
     m_step = step;
-    m_progress.phase = phaseOf(step);
+    m_progress.phase = step == BackUp ? BackupProgress::BackingUp
+        : step == Verify              ? BackupProgress::Verifying
+        : step == Restore             ? BackupProgress::Restoring
+                                      : BackupProgress::Preparing;
     m_progress.fraction = -1;
     emit progressChanged(m_progress);
     m_run.start(m_job.repository, m_job.password, arguments());
-}
-
-BackupProgress::Phase BackupRun::phaseOf(Step step)
-{
-    return step == BackUp ? BackupProgress::BackingUp
-        : step == Verify  ? BackupProgress::Verifying
-        : step == Restore ? BackupProgress::Restoring
-                          : BackupProgress::Preparing;
 }
 
 QStringList BackupRun::arguments() const
 {
     switch (m_step) {
     case BackUp:
-        return backUpArguments();
+        return Restic::backUpArguments(m_job, m_uploadLimit);
     case Verify:
-        return {QStringLiteral("check"), QStringLiteral("--read-data")};
+        return {"check", "--read-data"};
     case Restore:
-        return {QStringLiteral("restore"), QStringLiteral("--target"), m_folder,
-                QStringLiteral("--"), m_snapshot};
+        return {"restore", "--target", m_folder, "--", m_snapshot};
     case Create:
-        return {QStringLiteral("init")};
+        return {"init"};
     case Unlock:
     case TidyUp:
-        return {QStringLiteral("unlock")};
+        return {"unlock"};
     case Nothing:
         break;
     }
     return QStringList();
 }
 
-QStringList BackupRun::backUpArguments() const
-{
-    const QString source = Restic::sourcePath(m_job.source);
-    QStringList result = {QStringLiteral("backup"), QStringLiteral("--json")};
-    if (m_uploadLimit > 0) {
-        result += {QStringLiteral("--limit-upload"), QString::number(m_uploadLimit)};
-    }
-    // A repository inside the source would grow by itself with each run.
-    const QString repository = Restic::sourcePath(m_job.repository);
-    if (QFileInfo::exists(repository) && repository != source) {
-        result += {QStringLiteral("--exclude"), patternOf(repository)};
-    }
-    return result << QStringLiteral("--") << source;
-}
-
 void BackupRun::readMessage(const QJsonDocument &message)
 {
     const QJsonObject object = message.object();
-    const QString type = object.value(QStringLiteral("message_type")).toString();
-    if (type == QLatin1String("status")) {
+    const QString type = object.value("message_type").toString();
+    if (type == "status") {
         m_progress.read(object);
         emit progressChanged(m_progress);
-    } else if (type == QLatin1String("summary")) {
-        readSummary(object);
+    } else if (type == "summary") {
+        m_outcome.readSummary(object);
+        m_progress.bytesDone = m_outcome.bytesRead;
     }
-}
-
-void BackupRun::readSummary(const QJsonObject &summary)
-{
-    m_outcome.snapshot = summary.value(QStringLiteral("snapshot_id")).toString();
-    m_outcome.newFiles = number(summary, "files_new");
-    m_outcome.changedFiles = number(summary, "files_changed");
-    m_outcome.unchangedFiles = number(summary, "files_unmodified");
-    m_outcome.bytesRead = number(summary, "total_bytes_processed");
-    m_outcome.bytesAdded = number(summary, "data_added");
-    m_progress.bytesDone = m_outcome.bytesRead;
 }
 
 // Such as "[0:07] 42.00%  21 / 50 packs"; verifying counts other things before the packs.
 void BackupRun::readText(const QString &line)
 {
-    static const QRegularExpression pattern(QStringLiteral("([0-9.]+)%"));
+    static const QRegularExpression pattern("([0-9.]+)%");
     const QRegularExpressionMatch match = pattern.match(line);
-    if (match.hasMatch() && (m_step == Restore || line.contains(QLatin1String("packs")))) {
+    if (match.hasMatch() && (m_step == Restore || line.contains("packs"))) {
         m_progress.fraction = match.captured(1).toDouble() / 100;
         emit progressChanged(m_progress);
     }

@@ -53,10 +53,7 @@ private:
     void startStep(Step step);
     Outcome::Kind refusal() const;
     QStringList arguments() const;
-    QStringList backUpArguments() const;
-    static BackupProgress::Phase phaseOf(Step step);
     void readMessage(const QJsonDocument &message);
-    void readSummary(const QJsonObject &summary);
     void readText(const QString &line);
     void endStep(const Outcome &outcome);
     bool goesOn(const Outcome &outcome) const;

@@ -5,16 +5,6 @@
 #include <QSettings>
 #include <QStandardPaths>
 
-namespace {
-
-const QLatin1String jobsArray("jobs");
-const QLatin1String nameKey("name");
-const QLatin1String sourceKey("source");
-const QLatin1String repositoryKey("repository");
-const QLatin1String verifyKey("verify");
-
-} // namespace
-
 JobStore::JobStore(const QString &filePath)
     : m_filePath(filePath)
 {
@@ -23,21 +13,25 @@ JobStore::JobStore(const QString &filePath)
 QString JobStore::defaultFilePath()
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return QDir(folder).filePath(QStringLiteral("tessaline/backup.ini"));
+    return QDir(folder).filePath("tessaline/backup.ini");
 }
 
 QList<BackupJob> JobStore::load() const
 {
     QSettings settings(m_filePath, QSettings::IniFormat);
     QList<BackupJob> jobs;
-    const int count = settings.beginReadArray(jobsArray);
+    // Version 1.0 wrote no count.
+    settings.beginGroup("jobs");
+    const int count = int(settings.childGroups().size());
+    settings.endGroup();
+    settings.beginReadArray("jobs");
     for (int number = 0; number < count; ++number) {
         settings.setArrayIndex(number);
         BackupJob job;
-        job.name = settings.value(nameKey).toString();
-        job.source = settings.value(sourceKey).toString();
-        job.repository = settings.value(repositoryKey).toString();
-        job.verify = settings.value(verifyKey).toBool();
+        job.name = settings.value("name").toString();
+        job.source = settings.value("source").toString();
+        job.repository = settings.value("repository").toString();
+        job.verify = settings.value("verify").toBool();
         if (!job.name.isEmpty() || !job.source.isEmpty() || !job.repository.isEmpty()) {
             jobs.append(job);
         }
@@ -48,14 +42,14 @@ QList<BackupJob> JobStore::load() const
 bool JobStore::save(const QList<BackupJob> &jobs) const
 {
     QSettings settings(m_filePath, QSettings::IniFormat);
-    settings.remove(jobsArray);
-    settings.beginWriteArray(jobsArray, int(jobs.size()));
+    settings.remove("jobs");
+    settings.beginWriteArray("jobs", int(jobs.size()));
     for (int number = 0; number < jobs.size(); ++number) {
         settings.setArrayIndex(number);
-        settings.setValue(nameKey, jobs.at(number).name);
-        settings.setValue(sourceKey, jobs.at(number).source);
-        settings.setValue(repositoryKey, jobs.at(number).repository);
-        settings.setValue(verifyKey, jobs.at(number).verify);
+        settings.setValue("name", jobs.at(number).name);
+        settings.setValue("source", jobs.at(number).source);
+        settings.setValue("repository", jobs.at(number).repository);
+        settings.setValue("verify", jobs.at(number).verify);
     }
     settings.endArray();
     settings.sync();

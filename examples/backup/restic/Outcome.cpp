@@ -92,7 +92,7 @@ QString failureText(const Outcome &outcome)
     case Outcome::Failed:
         break;
     }
-    const QString reason = outcome.details.section(QLatin1String("Fatal: "), -1);
+    const QString reason = outcome.details.section("Fatal: ", -1);
     return Outcome::tr("restic failed: %1").arg(reason.section(QLatin1Char('\n'), 0, 0));
 }
 
@@ -106,6 +106,19 @@ QString Outcome::text() const
     }
     sentences.removeAll(QString());
     return sentences.join(QLatin1Char(' '));
+}
+
+void Outcome::readSummary(const QJsonObject &summary)
+{
+    const auto number = [&summary](const char *key) {
+        return static_cast<qint64>(summary.value(QLatin1String(key)).toDouble());
+    };
+    snapshot = summary.value("snapshot_id").toString();
+    newFiles = number("files_new");
+    changedFiles = number("files_changed");
+    unchangedFiles = number("files_unmodified");
+    bytesRead = number("total_bytes_processed");
+    bytesAdded = number("data_added");
 }
 
 Outcome::Kind Outcome::kindOf(int exitStatus, const QString &errors)

@@ -3,6 +3,7 @@
 #define OUTCOME_H
 
 #include <QCoreApplication>
+#include <QJsonObject>
 #include <QMetaType>
 #include <QString>
 
@@ -54,6 +55,8 @@ public:
     /// A sentence or two: what happened, and what to do.
     QString text() const;
 
+    /// From a message of the type "summary".
+    void readSummary(const QJsonObject &summary);
     /// What restic's exit status and its error output mean.
     static Kind kindOf(int exitStatus, const QString &errors);
 };

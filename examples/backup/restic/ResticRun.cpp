@@ -24,9 +24,9 @@ QStringList *goodPrograms()
 // Of a file that could not be read. Versions before 0.16 say why in numbers of the system.
 QString problemText(const QJsonObject &message)
 {
-    const QJsonObject error = message.value(QStringLiteral("error")).toObject();
-    const QString reason = error.value(QStringLiteral("message")).toString();
-    return message.value(QStringLiteral("item")).toString() + QStringLiteral(": ")
+    const QJsonObject error = message.value("error").toObject();
+    const QString reason = error.value("message").toString();
+    return message.value("item").toString() + ": "
         + (reason.isEmpty() ? ResticRun::tr("cannot be read") : reason);
 }
 
@@ -51,11 +51,6 @@ void ResticRun::setOutputFile(const QString &path)
     m_outputFile = path;
 }
 
-bool ResticRun::isRunning() const
-{
-    return m_isRunning;
-}
-
 void ResticRun::start(const QString &repository, const QString &password,
                       const QStringList &arguments)
 {
@@ -64,7 +59,6 @@ void ResticRun::start(const QString &repository, const QString &password,
     m_password = password;
     m_arguments = arguments;
     m_skippedLines = 0;
-    m_isRunning = true;
     m_isCancelled = false;
     m_asksVersion = !goodPrograms()->contains(m_program);
     QTimer::singleShot(0, this, &ResticRun::launch);
@@ -103,8 +97,8 @@ void ResticRun::launch()
             QTimer::singleShot(0, this, &ResticRun::end);
         }
     });
-    m_process->start(m_program,
-                     m_asksVersion ? QStringList(QStringLiteral("version")) : m_arguments);
+    m_process->start(
+        m_program, m_asksVersion ? QStringList{"version"} : Restic::globalOptions() + m_arguments);
     if (!m_asksVersion && m_process->state() != QProcess::NotRunning) {
         m_process->write(m_password.toUtf8() + '\n');
     }
@@ -129,7 +123,7 @@ void ResticRun::readLine(const QByteArray &line)
         m_lastErrors.append(QString::fromUtf8(line));
     } else if (!document.isNull()) {
         emit message(document);
-    } else if (!m_arguments.contains(QStringLiteral("--json"))) {
+    } else if (!m_arguments.contains("--json")) {
         emit textLine(QString::fromUtf8(line));
     } else if (!line.isEmpty() && !line.startsWith("reading repository password")) {
         ++m_skippedLines;
@@ -140,11 +134,11 @@ void ResticRun::readErrorLine(const QByteArray &line)
 {
     const QJsonObject message = QJsonDocument::fromJson(line).object();
     QString text = QString::fromUtf8(line);
-    if (message.contains(QStringLiteral("error"))) {
+    if (message.contains("error")) {
         text = problemText(message);
         emit problemFound(text);
-    } else if (message.contains(QStringLiteral("message"))) {
-        text = message.value(QStringLiteral("message")).toString();
+    } else if (message.contains("message")) {
+        text = message.value("message").toString();
     }
     m_lastErrors = (m_lastErrors << text).mid(m_lastErrors.size() - keptErrors);
 }
@@ -188,6 +182,5 @@ void ResticRun::finish(Outcome::Kind kind)
     outcome.details = m_lastErrors.join(QLatin1Char('\n'));
     outcome.skippedLines = m_skippedLines;
     m_password.clear();
-    m_isRunning = false;
     emit finished(outcome);
 }

@@ -22,7 +22,6 @@ public:
 
     /// Writes the standard output into a file instead of announcing it, for long lists.
     void setOutputFile(const QString &path);
-    bool isRunning() const;
     /// finished() always follows, never from within this call. Not while a run is under way. With
     /// "--json" among the arguments what is no JSON is counted, else it is announced.
     void start(const QString &repository, const QString &password, const QStringList &arguments);
@@ -57,7 +56,6 @@ private:
     QString m_outputFile;
     QStringList m_lastErrors;
     int m_skippedLines = 0;
-    bool m_isRunning = false;
     bool m_asksVersion = false;
     bool m_isCancelled = false;
 };

@@ -4,8 +4,6 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-#include <algorithm>
-
 namespace {
 
 QString textOf(const QJsonObject &object, const char *key)
@@ -32,15 +30,11 @@ QList<Snapshot> Snapshot::allIn(const QJsonDocument &message)
         snapshot.shortId = textOf(object, "short_id");
         snapshot.time = timeOf(object, "time");
         snapshot.host = textOf(object, "hostname");
-        snapshot.paths = object.value(QStringLiteral("paths")).toVariant().toStringList();
+        snapshot.paths = object.value("paths").toVariant().toStringList();
         if (!snapshot.id.isEmpty()) {
             snapshots.append(snapshot);
         }
     }
-    std::stable_sort(snapshots.begin(), snapshots.end(),
-                     [](const Snapshot &left, const Snapshot &right) {
-                         return left.time < right.time;
-                     });
     return snapshots;
 }
 
@@ -50,7 +44,7 @@ bool SnapshotFile::read(const QByteArray &line, SnapshotFile *file)
     file->path = textOf(object, "path");
     file->type = textOf(object, "type");
     file->permissions = textOf(object, "permissions");
-    file->size = static_cast<qint64>(object.value(QStringLiteral("size")).toDouble());
+    file->size = static_cast<qint64>(object.value("size").toDouble());
     file->modified = timeOf(object, "mtime");
-    return textOf(object, "struct_type") == QLatin1String("node") && !file->path.isEmpty();
+    return textOf(object, "struct_type") == "node" && !file->path.isEmpty();
 }

@@ -11,7 +11,7 @@ const int linesAtOnce = 500;
 
 SnapshotListing::SnapshotListing(QObject *parent)
     : QObject(parent)
-    , m_file(m_folder.filePath(QStringLiteral("files")))
+    , m_file(m_folder.filePath("files"))
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &SnapshotListing::readOn);
@@ -32,8 +32,7 @@ void SnapshotListing::open(const BackupJob &job, const QString &snapshot)
         m_isWritten = true;
     });
     m_run->setOutputFile(m_file.fileName());
-    m_run->start(job.repository, job.password,
-                 {QStringLiteral("ls"), QStringLiteral("--json"), QStringLiteral("--"), snapshot});
+    m_run->start(job.repository, job.password, {"ls", "--json", "--", snapshot});
 }
 
 void SnapshotListing::requestPage(int count)

@@ -211,6 +211,12 @@ int Sandbox::snapshotCount() const
         restic({QStringLiteral("snapshots"), QStringLiteral("--json")}).count("\"short_id\""));
 }
 
+bool Sandbox::isLocked() const
+{
+    const QStringList names(QString(64, QLatin1Char('?')));
+    return !QDir(job.repository + QStringLiteral("/locks")).entryList(names).isEmpty();
+}
+
 void Sandbox::useProgram(const QString &program) const
 {
     QSettings(JobStore::defaultFilePath(), QSettings::IniFormat)

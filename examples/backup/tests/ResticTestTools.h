@@ -46,6 +46,8 @@ public:
     /// Whether restic finds the repository without a fault, after removing stale locks.
     bool isSound() const;
     int snapshotCount() const;
+    /// Whether there is a lock in its place; restic writes it under another name first.
+    bool isLocked() const;
     /// Makes this the program that is run instead of restic.
     void useProgram(const QString &program) const;
 

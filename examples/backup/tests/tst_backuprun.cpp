@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "ResticTestTools.h"
 
-#include <QDir>
 #include <QFile>
 #include <QScopedPointer>
 #include <QSignalSpy>
@@ -68,11 +67,10 @@ void tst_BackupRun::leaveExclusiveLock() const
     check.start(realRestic(), {QStringLiteral("check"), QStringLiteral("--read-data")});
     check.write(m_sandbox->job.password.toUtf8() + '\n');
     check.closeWriteChannel();
-    QDir locks(m_sandbox->job.repository + QStringLiteral("/locks"));
-    QTRY_VERIFY(!locks.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(m_sandbox->isLocked(), 30000);
     check.kill();
     check.waitForFinished();
-    QVERIFY(!locks.isEmpty());
+    QVERIFY(m_sandbox->isLocked());
 }
 
 void tst_BackupRun::aBackupMakesTheRepositoryAfterAQuestion()
@@ -282,7 +280,7 @@ void tst_BackupRun::cancellingEndsTheRunAndLeavesNoLock()
     });
     run.backUp(m_sandbox->job);
     QCOMPARE(recordOf(&run).outcome.kind, Outcome::Cancelled);
-    QVERIFY(QDir(m_sandbox->job.repository + QStringLiteral("/locks")).isEmpty());
+    QVERIFY(!m_sandbox->isLocked());
     m_sandbox->job.verify = true;
     QCOMPARE(m_sandbox->backUp(false).outcome.kind, Outcome::Done);
 }
@@ -314,7 +312,7 @@ void tst_BackupRun::aStaleLockStaysWithoutConsent()
     leaveExclusiveLock();
     const Record record = m_sandbox->backUp(false);
     QCOMPARE(record.outcome.kind, Outcome::Locked);
-    QVERIFY(!QDir(m_sandbox->job.repository + QStringLiteral("/locks")).isEmpty());
+    QVERIFY(m_sandbox->isLocked());
 }
 
 void tst_BackupRun::aLiveLockIsNotRemoved()
@@ -324,12 +322,11 @@ void tst_BackupRun::aLiveLockIsNotRemoved()
     BackupRun slow;
     slow.setUploadLimit(100);
     slow.backUp(m_sandbox->job);
-    const QDir locks(m_sandbox->job.repository + QStringLiteral("/locks"));
-    QTRY_VERIFY(!locks.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(m_sandbox->isLocked(), 30000);
     const Record record = m_sandbox->verify();
     QCOMPARE(record.questions, {BackupRun::RemoveStaleLock});
     QCOMPARE(record.outcome.kind, Outcome::Locked);
-    QVERIFY(!locks.isEmpty());
+    QVERIFY(m_sandbox->isLocked());
     slow.cancel();
     QCOMPARE(recordOf(&slow).outcome.kind, Outcome::Cancelled);
 }

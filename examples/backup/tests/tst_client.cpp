@@ -33,6 +33,7 @@ private slots:
     void aMissingProgramIsOneSentence();
     void quietSaysNothingUnlessSomethingIsWrong();
     void namesNeedNoLocale();
+    void noHomeFolderIsNeeded();
     void thePasswordIsSeenNowhere();
     void aTerminalIsAskedForThePassword();
     void twoClientsAtOnceBothSucceed();
@@ -147,7 +148,7 @@ void tst_Client::aLiveLockEndsWithSix()
     Client slow(*m_sandbox);
     slow.start(
         backUpArguments(*m_sandbox, {QStringLiteral("--limit-upload"), QStringLiteral("100")}));
-    QTRY_VERIFY(!QDir(m_sandbox->job.repository + QStringLiteral("/locks")).isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(m_sandbox->isLocked(), 30000);
     QCOMPARE(m_client->run(target({verifyOption})), 6);
     QVERIFY(m_client->errors.contains("--unlock"));
     QCOMPARE(m_client->run(target({verifyOption, QStringLiteral("--unlock")})), 6);
@@ -188,6 +189,16 @@ void tst_Client::namesNeedNoLocale()
     m_sandbox->job.source = QString::fromUtf8(m_sandbox->path()) + name;
     QCOMPARE(m_client->run(backUpArguments(*m_sandbox, {initOption})), 0);
     QVERIFY(m_client->output.contains("1 new"));
+}
+
+// There is none in the first place: see Client.
+void tst_Client::noHomeFolderIsNeeded()
+{
+    QProcessEnvironment environment = m_client->process.processEnvironment();
+    environment.remove(QStringLiteral("RESTIC_CACHE_DIR"));
+    environment.remove(QStringLiteral("XDG_CACHE_HOME"));
+    m_client->process.setProcessEnvironment(environment);
+    QCOMPARE(m_client->run(backUpArguments(*m_sandbox, {initOption, verifyOption})), 0);
 }
 
 namespace {

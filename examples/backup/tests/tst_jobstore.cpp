@@ -20,6 +20,7 @@ private slots:
     void passwordsAreNotKept();
     void savingReplacesAll();
     void otherSettingsStay();
+    void jobsOfTheFirstVersionAreRead();
     void whatMakesNoSenseIsNoJob_data();
     void whatMakesNoSenseIsNoJob();
     void aFileThatCannotBeWrittenIsTold();
@@ -93,6 +94,19 @@ void tst_JobStore::otherSettingsStay()
     QCOMPARE(settings.value(QStringLiteral("restic")).toString(), QStringLiteral("/opt/restic"));
 }
 
+void tst_JobStore::jobsOfTheFirstVersionAreRead()
+{
+    QFile settings(m_folder.filePath(QStringLiteral("first.ini")));
+    QVERIFY(settings.open(QIODevice::WriteOnly));
+    settings.write("[jobs]\n1\\name=one\n1\\source=/s\n1\\target=/t\n2\\name=two\n");
+    settings.close();
+    const QList<BackupJob> jobs = JobStore(settings.fileName()).load();
+    QCOMPARE(jobs.size(), 2);
+    QCOMPARE(jobs.first().source, QStringLiteral("/s"));
+    // A mirror is no repository.
+    QCOMPARE(jobs.first().repository, QString());
+}
+
 void tst_JobStore::whatMakesNoSenseIsNoJob_data()
 {
     QTest::addColumn<QByteArray>("content");
@@ -100,7 +114,7 @@ void tst_JobStore::whatMakesNoSenseIsNoJob_data()
     QTest::newRow("noise") << QByteArray("\0\xff[jobs\n=\n", 10);
     QTest::newRow("other groups") << QByteArray("[jobs]\nx/name=a\n");
     QTest::newRow("more than there are") << QByteArray("[jobs]\nsize=1000\n");
-    QTest::newRow("no number") << QByteArray("[jobs]\nsize=many\n1\\name=a\n");
+    QTest::newRow("empty jobs") << QByteArray("[jobs]\nsize=2\n1\\name=\n2\\verify=true\n");
 }
 
 void tst_JobStore::whatMakesNoSenseIsNoJob()

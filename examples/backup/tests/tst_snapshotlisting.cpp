@@ -173,9 +173,9 @@ void tst_SnapshotListing::anotherSnapshotStartsOver()
 void tst_SnapshotListing::snapshotsAreRead()
 {
     const QList<Snapshot> snapshots = Snapshot::allIn(QJsonDocument::fromJson(
-        "[{\"id\":\"bb\",\"short_id\":\"b\",\"time\":\"2026-11-21T21:08:40.417065835+02:00\","
-        "\"paths\":[\"/a\",\"/b\"],\"hostname\":\"h\"},7,{},"
-        "{\"id\":\"aa\",\"time\":\"2026-11-21T18:08:40Z\"}]"));
+        "[{\"id\":\"aa\",\"time\":\"2026-11-21T18:08:40Z\"},7,{},"
+        "{\"id\":\"bb\",\"short_id\":\"b\",\"time\":\"2026-11-21T21:08:40.417065835+02:00\","
+        "\"paths\":[\"/a\",\"/b\"],\"hostname\":\"h\"}]"));
     QCOMPARE(snapshots.size(), 2);
     QCOMPARE(snapshots.first().id, QStringLiteral("aa"));
     QCOMPARE(snapshots.last().paths.size(), 2);
