@@ -38,6 +38,32 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The password is the first line of the standard input; on a terminal it is asked for.
+Exit status:
+  0  done
+  1  failed
+  2  the arguments make no sense, or something is missing: restic, source, repository, password
+  3  backed up, but for some files that could not be read
+  4  verifying found damage
+  5  wrong password
+  6  the repository is locked
+</source>
+        <translation>Das Passwort ist die erste Zeile der Standardeingabe; auf einem Terminal wird danach gefragt.
+Endstatus:
+  0  fertig
+  1  gescheitert
+  2  die Argumente ergeben keinen Sinn, oder es fehlt etwas: restic, Quelle, Repository, Passwort
+  3  gesichert bis auf einige Dateien, die nicht gelesen werden konnten
+  4  beim Prüfen wurden Schäden gefunden
+  5  falsches Passwort
+  6  das Repository ist gesperrt
+</translation>
+    </message>
+    <message>
+        <source>Backups, by restic.</source>
+        <translation>Sicherungen mit restic.</translation>
+    </message>
+    <message>
         <source>Back up FOLDER.</source>
         <translation>Den Ordner FOLDER sichern.</translation>
     </message>
@@ -90,32 +116,6 @@
         <translation>Diese Hilfe zeigen.</translation>
     </message>
     <message>
-        <source>The password is the first line of the standard input; on a terminal it is asked for.
-Exit status:
-  0  done
-  1  failed
-  2  the arguments make no sense, or something is missing: restic, source, repository, password
-  3  backed up, but for some files that could not be read
-  4  verifying found damage
-  5  wrong password
-  6  the repository is locked
-</source>
-        <translation>Das Passwort ist die erste Zeile der Standardeingabe; auf einem Terminal wird danach gefragt.
-Endstatus:
-  0  fertig
-  1  gescheitert
-  2  die Argumente ergeben keinen Sinn, oder es fehlt etwas: restic, Quelle, Repository, Passwort
-  3  gesichert bis auf einige Dateien, die nicht gelesen werden konnten
-  4  beim Prüfen wurden Schäden gefunden
-  5  falsches Passwort
-  6  das Repository ist gesperrt
-</translation>
-    </message>
-    <message>
-        <source>Backups, by restic.</source>
-        <translation>Sicherungen mit restic.</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>Unerwartetes Argument: %1</translation>
     </message>
@@ -139,9 +139,6 @@ Endstatus:
         <source>--limit-upload needs a number above 0.</source>
         <translation>Zu --limit-upload gehört eine Zahl über 0.</translation>
     </message>
-</context>
-<context>
-    <name>Console</name>
     <message>
         <source>With --init it is made.</source>
         <translation>Mit --init wird es angelegt.</translation>
@@ -242,6 +239,10 @@ Endstatus:
     <message>
         <source>Nothing was restored: there is one run at a time.</source>
         <translation>Nichts wurde wiederhergestellt: Es läuft immer nur eines.</translation>
+    </message>
+    <message>
+        <source>There is no snapshot yet.</source>
+        <translation>Es gibt noch keinen Snapshot.</translation>
     </message>
     <message>
         <source>The backup has no repository yet.</source>

@@ -38,6 +38,32 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The password is the first line of the standard input; on a terminal it is asked for.
+Exit status:
+  0  done
+  1  failed
+  2  the arguments make no sense, or something is missing: restic, source, repository, password
+  3  backed up, but for some files that could not be read
+  4  verifying found damage
+  5  wrong password
+  6  the repository is locked
+</source>
+        <translation>La contraseña es la primera línea de la entrada estándar; en un terminal se pregunta por ella.
+Estado de salida:
+  0  hecho
+  1  falló
+  2  los argumentos no tienen sentido o falta algo: restic, origen, repositorio, contraseña
+  3  copiado, salvo algunos archivos que no se pudieron leer
+  4  la verificación encontró daños
+  5  contraseña incorrecta
+  6  el repositorio está bloqueado
+</translation>
+    </message>
+    <message>
+        <source>Backups, by restic.</source>
+        <translation>Copias de seguridad con restic.</translation>
+    </message>
+    <message>
         <source>Back up FOLDER.</source>
         <translation>Copiar la carpeta FOLDER.</translation>
     </message>
@@ -90,32 +116,6 @@
         <translation>Mostrar esta ayuda.</translation>
     </message>
     <message>
-        <source>The password is the first line of the standard input; on a terminal it is asked for.
-Exit status:
-  0  done
-  1  failed
-  2  the arguments make no sense, or something is missing: restic, source, repository, password
-  3  backed up, but for some files that could not be read
-  4  verifying found damage
-  5  wrong password
-  6  the repository is locked
-</source>
-        <translation>La contraseña es la primera línea de la entrada estándar; en un terminal se pregunta por ella.
-Estado de salida:
-  0  hecho
-  1  falló
-  2  los argumentos no tienen sentido o falta algo: restic, origen, repositorio, contraseña
-  3  copiado, salvo algunos archivos que no se pudieron leer
-  4  la verificación encontró daños
-  5  contraseña incorrecta
-  6  el repositorio está bloqueado
-</translation>
-    </message>
-    <message>
-        <source>Backups, by restic.</source>
-        <translation>Copias de seguridad con restic.</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>Argumento inesperado: %1</translation>
     </message>
@@ -139,9 +139,6 @@ Estado de salida:
         <source>--limit-upload needs a number above 0.</source>
         <translation>--limit-upload necesita un número mayor que 0.</translation>
     </message>
-</context>
-<context>
-    <name>Console</name>
     <message>
         <source>With --init it is made.</source>
         <translation>Con --init se crea.</translation>
@@ -242,6 +239,10 @@ Estado de salida:
     <message>
         <source>Nothing was restored: there is one run at a time.</source>
         <translation>No se restauró nada: solo se hace una cosa a la vez.</translation>
+    </message>
+    <message>
+        <source>There is no snapshot yet.</source>
+        <translation>Aún no hay ninguna instantánea.</translation>
     </message>
     <message>
         <source>The backup has no repository yet.</source>

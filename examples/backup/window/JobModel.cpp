@@ -72,7 +72,9 @@ void JobModel::setRunningRow(int row)
     const int before = runningRow();
     m_running = index(row, Run);
     for (int changed : {before, row}) {
-        emit dataChanged(index(changed, Run), index(changed, Run));
+        if (changed >= 0) {
+            emit dataChanged(index(changed, Run), index(changed, Run));
+        }
     }
 }
 

@@ -178,10 +178,13 @@ private:
             take(QStringLiteral("question"), box);
             box->button(QMessageBox::Yes)->click();
         }
-        QElapsedTimer timer;
+        waitFor([this] {
+            return find<BackupRun>()->bytesDone() > 0;
+        });
+        QElapsedTimer timer; // the chart has a value a second
         timer.start();
-        waitFor([this, &timer] {
-            return find<BackupRun>()->bytesDone() > 0 && timer.elapsed() > 3000;
+        waitFor([&timer] {
+            return timer.elapsed() > 1200;
         });
         takePages(QStringLiteral("running"));
         waitForEnd();
