@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QHash>
 #include <QScopedPointer>
 #include <QStandardPaths>
 #include <QTest>
@@ -113,9 +114,13 @@ void tst_Client::exitStatusTellsWhatHappened()
     QFETCH(QByteArray, input);
     QFETCH(int, status);
     m_sandbox->backUp();
-    arguments.replaceInStrings(QStringLiteral("S"), m_sandbox->job.source);
-    arguments.replaceInStrings(QStringLiteral("R"), m_sandbox->job.repository);
-    arguments.replaceInStrings(QStringLiteral("N"), QFile::decodeName(m_sandbox->path("nothing")));
+    const QHash<QString, QString> names
+        = {{QStringLiteral("S"), m_sandbox->job.source},
+           {QStringLiteral("R"), m_sandbox->job.repository},
+           {QStringLiteral("N"), QFile::decodeName(m_sandbox->path("nothing"))}};
+    for (QString &argument : arguments) {
+        argument = names.value(argument, argument);
+    }
     m_client->input = input;
     QCOMPARE(m_client->run(arguments), status);
     QCOMPARE(m_client->errors.isEmpty(), status == 0);
