@@ -50,9 +50,11 @@ void tst_MainWindow::goesOnRunningWhenClosingIsDeclined()
     window.startLongRun();
     window->close();
     QVERIFY(question());
+    QSignalSpy finished(window.run(), &BackupRun::finished);
 
     answer(QMessageBox::No);
 
+    QVERIFY(!finished.wait(3000));
     QVERIFY(window->isVisible());
     QVERIFY(window.run()->isRunning());
     QVERIFY(window.shows(QStringLiteral("Backing up \"Numbers\"")));

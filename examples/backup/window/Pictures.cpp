@@ -29,7 +29,7 @@
 
 namespace {
 
-const QString password(QStringLiteral("correct horse"));
+const QLatin1String password("correct horse");
 const QSize usualSize(960, 560);
 
 void writeSampleTree(const QString &folder)
