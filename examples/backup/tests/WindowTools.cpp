@@ -45,9 +45,9 @@ Window::Window()
     }
 }
 
-JobsTable *Window::table() const
+EditableTableView *Window::table() const
 {
-    return find<JobsTable>();
+    return find<EditableTableView>();
 }
 
 JobModel *Window::jobs() const

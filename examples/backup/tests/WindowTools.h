@@ -4,10 +4,10 @@
 
 #include "FileListModel.h"
 #include "JobModel.h"
-#include "JobsTable.h"
 #include "MainWindow.h"
 #include "ResticTestTools.h"
 
+#include <EditableTableView.h>
 #include <SpinBox.h>
 
 #include <QMessageBox>
@@ -33,7 +33,7 @@ public:
         return m_window->findChild<Widget *>();
     }
 
-    JobsTable *table() const;
+    EditableTableView *table() const;
     JobModel *jobs() const;
     BackupRun *run() const;
     QPushButton *runButton(int row) const;

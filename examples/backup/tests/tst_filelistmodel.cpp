@@ -113,6 +113,7 @@ private slots:
     void startsAnewWithAnotherSnapshot();
     void answersWithTheNewSnapshotWhenItChangesWhileLoading();
     void showsSizesInTheUnitsOfTheChart();
+    void showsRightsAsNumbers();
     void holdsOnlyThePagesAskedFor();
 };
 
@@ -262,6 +263,16 @@ void tst_FileListModel::showsSizesInTheUnitsOfTheChart()
     QCOMPARE(listing.column(FileListModel::Size), QStringLiteral("1.50 KB"));
     QVERIFY(listing.view.fontMetrics().horizontalAdvance(QStringLiteral("1023 MB"))
             < listing.view.columnWidth(FileListModel::Size));
+}
+
+void tst_FileListModel::showsRightsAsNumbers()
+{
+    Listing listing;
+    listing.writeFiles(1);
+
+    listing.openAll();
+
+    QCOMPARE(listing.column(FileListModel::Rights), QStringLiteral("644"));
 }
 
 void tst_FileListModel::holdsOnlyThePagesAskedFor()

@@ -54,6 +54,7 @@ private slots:
     void looksAgainAfterABackup();
     void asksForAMissingPassword();
     void tellsAWrongPassword();
+    void asksAgainAfterAWrongPassword();
     void listsNothingForAJobWithoutRepository();
     void restoresTheChosenSnapshot();
     void restoresNothingIntoAFolderInUse();
@@ -148,6 +149,20 @@ void tst_FilesPage::tellsAWrongPassword()
     QTRY_VERIFY_WITH_TIMEOUT(window.shows(QStringLiteral("not the repository's password")), 60000);
     QCOMPARE(window.listedNames(), QStringList());
     QVERIFY(!pushButton(window, QStringLiteral("&Restore..."))->isEnabled());
+}
+
+void tst_FilesPage::asksAgainAfterAWrongPassword()
+{
+    NEEDS_RESTIC()
+    const Window window;
+    window.backUp(0);
+    window.typePassword(0, QStringLiteral("wrong"));
+    window.showPage(filesPage);
+    QTRY_VERIFY_WITH_TIMEOUT(window.shows(QStringLiteral("not the repository's password")), 60000);
+
+    QTest::mouseClick(pushButton(window, QStringLiteral("&Show snapshots")), Qt::LeftButton);
+
+    QVERIFY(qobject_cast<QInputDialog *>(QApplication::activeModalWidget()));
 }
 
 void tst_FilesPage::listsNothingForAJobWithoutRepository()

@@ -169,7 +169,7 @@ void tst_JobsPage::marksTheRunningRowInARebuiltTable()
     window.table()->setModel(nullptr);
     window.table()->setModel(window.jobs());
 
-    QCOMPARE(window.runButton(1)->text(), QStringLiteral("Cancel"));
+    QTRY_COMPARE_WITH_TIMEOUT(window.runButton(1)->text(), QStringLiteral("Cancel"), 60000);
     QCOMPARE(window.runButton(0)->text(), QStringLiteral("Run"));
 }
 

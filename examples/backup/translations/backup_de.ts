@@ -38,6 +38,32 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The password is the first line of the standard input; on a terminal it is asked for.
+Exit status:
+  0  done
+  1  failed
+  2  the arguments make no sense, or something is missing: restic, source, repository, password
+  3  backed up, but for some files that could not be read
+  4  verifying found damage
+  5  wrong password
+  6  the repository is locked
+</source>
+        <translation>Das Passwort ist die erste Zeile der Standardeingabe; auf einem Terminal wird danach gefragt.
+Endstatus:
+  0  fertig
+  1  gescheitert
+  2  die Argumente ergeben keinen Sinn, oder es fehlt etwas: restic, Quelle, Repository, Passwort
+  3  gesichert bis auf einige Dateien, die nicht gelesen werden konnten
+  4  beim Prüfen wurden Schäden gefunden
+  5  falsches Passwort
+  6  das Repository ist gesperrt
+</translation>
+    </message>
+    <message>
+        <source>Backups, by restic.</source>
+        <translation>Sicherungen mit restic.</translation>
+    </message>
+    <message>
         <source>Back up FOLDER.</source>
         <translation>Den Ordner FOLDER sichern.</translation>
     </message>
@@ -90,32 +116,6 @@
         <translation>Diese Hilfe zeigen.</translation>
     </message>
     <message>
-        <source>The password is the first line of the standard input; on a terminal it is asked for.
-Exit status:
-  0  done
-  1  failed
-  2  the arguments make no sense, or something is missing: restic, source, repository, password
-  3  backed up, but for some files that could not be read
-  4  verifying found damage
-  5  wrong password
-  6  the repository is locked
-</source>
-        <translation>Das Passwort ist die erste Zeile der Standardeingabe; auf einem Terminal wird danach gefragt.
-Endstatus:
-  0  fertig
-  1  gescheitert
-  2  die Argumente ergeben keinen Sinn, oder es fehlt etwas: restic, Quelle, Repository, Passwort
-  3  gesichert bis auf einige Dateien, die nicht gelesen werden konnten
-  4  beim Prüfen wurden Schäden gefunden
-  5  falsches Passwort
-  6  das Repository ist gesperrt
-</translation>
-    </message>
-    <message>
-        <source>Backups, by restic.</source>
-        <translation>Sicherungen mit restic.</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>Unerwartetes Argument: %1</translation>
     </message>
@@ -139,9 +139,6 @@ Endstatus:
         <source>--limit-upload needs a number above 0.</source>
         <translation>Zu --limit-upload gehört eine Zahl über 0.</translation>
     </message>
-</context>
-<context>
-    <name>Console</name>
     <message>
         <source>With --init it is made.</source>
         <translation>Mit --init wird es angelegt.</translation>
@@ -244,6 +241,10 @@ Endstatus:
         <translation>Nichts wurde wiederhergestellt: Es läuft immer nur eines.</translation>
     </message>
     <message>
+        <source>There is no snapshot yet.</source>
+        <translation>Es gibt noch keinen Snapshot.</translation>
+    </message>
+    <message>
         <source>The backup has no repository yet.</source>
         <translation>Die Sicherung hat noch kein Repository.</translation>
     </message>
@@ -283,18 +284,6 @@ Endstatus:
         <translation>Ordner wählen ...</translation>
     </message>
     <message>
-        <source>Cancel %1</source>
-        <translation>%1 abbrechen</translation>
-    </message>
-    <message>
-        <source>Run %1</source>
-        <translation>%1 starten</translation>
-    </message>
-    <message>
-        <source>Remove %1</source>
-        <translation>%1 entfernen</translation>
-    </message>
-    <message>
         <source>Password: asked for</source>
         <translation>Passwort: wird erfragt</translation>
     </message>
@@ -310,28 +299,24 @@ Endstatus:
         <source>Verify: yes</source>
         <translation>Prüfen: ja</translation>
     </message>
+    <message>
+        <source>Cancel %1</source>
+        <translation>%1 abbrechen</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>%1 starten</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
 </context>
 <context>
     <name>JobsPage</name>
     <message>
-        <source>New backup</source>
-        <translation>Neue Sicherung</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; was not started: there is one run at a time.</source>
-        <translation>„%1“ wurde nicht gestartet: Es läuft immer nur eines.</translation>
-    </message>
-    <message>
-        <source>Say first where the backups of &quot;%1&quot; are to be kept.</source>
-        <translation>Zuerst muss gesagt sein, wo die Sicherungen von „%1“ aufbewahrt werden.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is running. Cancel it before you remove it.</source>
-        <translation>„%1“ läuft. Vor dem Entfernen muss es abgebrochen werden.</translation>
-    </message>
-    <message>
-        <source>Remove &quot;%1&quot; from the list? Its backups stay in the repository.</source>
-        <translation>„%1“ aus der Liste entfernen? Die Sicherungen bleiben im Repository.</translation>
+        <source>Backups</source>
+        <translation>Sicherungen</translation>
     </message>
     <message>
         <source> KB/s</source>
@@ -346,12 +331,32 @@ Endstatus:
         <translation>Wie viel der nächste Lauf in einer Sekunde höchstens ins Repository schreibt</translation>
     </message>
     <message>
+        <source>There is nothing to back up yet.
+
+&quot;New backup&quot; adds a row. Choose the folder to back up and the repository that is to keep the backups: another folder, or any address that restic takes. Then press &quot;Run&quot;.</source>
+        <translation>Es gibt noch nichts zu sichern.
+
+„Neue Sicherung“ fügt eine Zeile hinzu. Wählen Sie den Ordner, der gesichert werden soll, und das Repository, das die Sicherungen aufbewahrt: einen anderen Ordner oder jede Adresse, die restic kennt. Dann drücken Sie „Starten“.</translation>
+    </message>
+    <message>
         <source>&amp;New backup</source>
         <translation>&amp;Neue Sicherung</translation>
     </message>
     <message>
         <source>Bandwidth &amp;limit:</source>
         <translation>Band&amp;breite höchstens:</translation>
+    </message>
+    <message>
+        <source>New backup</source>
+        <translation>Neue Sicherung</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not started: there is one run at a time.</source>
+        <translation>„%1“ wurde nicht gestartet: Es läuft immer nur eines.</translation>
+    </message>
+    <message>
+        <source>Say first where the backups of &quot;%1&quot; are to be kept.</source>
+        <translation>Zuerst muss gesagt sein, wo die Sicherungen von „%1“ aufbewahrt werden.</translation>
     </message>
     <message>
         <source>Password of the repository %1:</source>
@@ -361,20 +366,13 @@ Endstatus:
         <source>Backing up &quot;%1&quot;</source>
         <translation>Sichert „%1“</translation>
     </message>
-</context>
-<context>
-    <name>JobsTable</name>
     <message>
-        <source>Backups</source>
-        <translation>Sicherungen</translation>
+        <source>&quot;%1&quot; is running. Cancel it before you remove it.</source>
+        <translation>„%1“ läuft. Vor dem Entfernen muss es abgebrochen werden.</translation>
     </message>
     <message>
-        <source>There is nothing to back up yet.
-
-&quot;New backup&quot; adds a row. Choose the folder to back up and the repository that is to keep the backups: another folder, or any address that restic takes. Then press &quot;Run&quot;.</source>
-        <translation>Es gibt noch nichts zu sichern.
-
-„Neue Sicherung“ fügt eine Zeile hinzu. Wählen Sie den Ordner, der gesichert werden soll, und das Repository, das die Sicherungen aufbewahrt: einen anderen Ordner oder jede Adresse, die restic kennt. Dann drücken Sie „Starten“.</translation>
+        <source>Remove &quot;%1&quot; from the list? Its backups stay in the repository.</source>
+        <translation>„%1“ aus der Liste entfernen? Die Sicherungen bleiben im Repository.</translation>
     </message>
     <message>
         <source>Folder to back up</source>

@@ -38,6 +38,32 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The password is the first line of the standard input; on a terminal it is asked for.
+Exit status:
+  0  done
+  1  failed
+  2  the arguments make no sense, or something is missing: restic, source, repository, password
+  3  backed up, but for some files that could not be read
+  4  verifying found damage
+  5  wrong password
+  6  the repository is locked
+</source>
+        <translation>La contraseña es la primera línea de la entrada estándar; en un terminal se pregunta por ella.
+Estado de salida:
+  0  hecho
+  1  falló
+  2  los argumentos no tienen sentido o falta algo: restic, origen, repositorio, contraseña
+  3  copiado, salvo algunos archivos que no se pudieron leer
+  4  la verificación encontró daños
+  5  contraseña incorrecta
+  6  el repositorio está bloqueado
+</translation>
+    </message>
+    <message>
+        <source>Backups, by restic.</source>
+        <translation>Copias de seguridad con restic.</translation>
+    </message>
+    <message>
         <source>Back up FOLDER.</source>
         <translation>Copiar la carpeta FOLDER.</translation>
     </message>
@@ -90,32 +116,6 @@
         <translation>Mostrar esta ayuda.</translation>
     </message>
     <message>
-        <source>The password is the first line of the standard input; on a terminal it is asked for.
-Exit status:
-  0  done
-  1  failed
-  2  the arguments make no sense, or something is missing: restic, source, repository, password
-  3  backed up, but for some files that could not be read
-  4  verifying found damage
-  5  wrong password
-  6  the repository is locked
-</source>
-        <translation>La contraseña es la primera línea de la entrada estándar; en un terminal se pregunta por ella.
-Estado de salida:
-  0  hecho
-  1  falló
-  2  los argumentos no tienen sentido o falta algo: restic, origen, repositorio, contraseña
-  3  copiado, salvo algunos archivos que no se pudieron leer
-  4  la verificación encontró daños
-  5  contraseña incorrecta
-  6  el repositorio está bloqueado
-</translation>
-    </message>
-    <message>
-        <source>Backups, by restic.</source>
-        <translation>Copias de seguridad con restic.</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>Argumento inesperado: %1</translation>
     </message>
@@ -139,9 +139,6 @@ Estado de salida:
         <source>--limit-upload needs a number above 0.</source>
         <translation>--limit-upload necesita un número mayor que 0.</translation>
     </message>
-</context>
-<context>
-    <name>Console</name>
     <message>
         <source>With --init it is made.</source>
         <translation>Con --init se crea.</translation>
@@ -170,15 +167,15 @@ Estado de salida:
     <name>FileListModel</name>
     <message>
         <source>folder</source>
-        <translation>carpeta</translation>
+        <translation>carp.</translation>
     </message>
     <message>
         <source>link</source>
-        <translation>enlace</translation>
+        <translation>enl.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation>archivo</translation>
+        <translation>arch.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -244,6 +241,10 @@ Estado de salida:
         <translation>No se restauró nada: solo se hace una cosa a la vez.</translation>
     </message>
     <message>
+        <source>There is no snapshot yet.</source>
+        <translation>Aún no hay ninguna instantánea.</translation>
+    </message>
+    <message>
         <source>The backup has no repository yet.</source>
         <translation>La copia aún no tiene repositorio.</translation>
     </message>
@@ -283,18 +284,6 @@ Estado de salida:
         <translation>Elegir una carpeta...</translation>
     </message>
     <message>
-        <source>Cancel %1</source>
-        <translation>Cancelar %1</translation>
-    </message>
-    <message>
-        <source>Run %1</source>
-        <translation>Iniciar %1</translation>
-    </message>
-    <message>
-        <source>Remove %1</source>
-        <translation>Quitar %1</translation>
-    </message>
-    <message>
         <source>Password: asked for</source>
         <translation>Contraseña: se pedirá</translation>
     </message>
@@ -310,28 +299,24 @@ Estado de salida:
         <source>Verify: yes</source>
         <translation>Verificar: sí</translation>
     </message>
+    <message>
+        <source>Cancel %1</source>
+        <translation>Cancelar %1</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>Iniciar %1</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>Quitar %1</translation>
+    </message>
 </context>
 <context>
     <name>JobsPage</name>
     <message>
-        <source>New backup</source>
-        <translation>Copia nueva</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; was not started: there is one run at a time.</source>
-        <translation>«%1» no se inició: solo se hace una cosa a la vez.</translation>
-    </message>
-    <message>
-        <source>Say first where the backups of &quot;%1&quot; are to be kept.</source>
-        <translation>Indique primero dónde se guardan las copias de «%1».</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is running. Cancel it before you remove it.</source>
-        <translation>«%1» está en marcha. Cancélela antes de quitarla.</translation>
-    </message>
-    <message>
-        <source>Remove &quot;%1&quot; from the list? Its backups stay in the repository.</source>
-        <translation>¿Quitar «%1» de la lista? Sus copias se quedan en el repositorio.</translation>
+        <source>Backups</source>
+        <translation>Copias</translation>
     </message>
     <message>
         <source> KB/s</source>
@@ -346,12 +331,32 @@ Estado de salida:
         <translation>Cuánto escribe la próxima vez en el repositorio por segundo como mucho</translation>
     </message>
     <message>
+        <source>There is nothing to back up yet.
+
+&quot;New backup&quot; adds a row. Choose the folder to back up and the repository that is to keep the backups: another folder, or any address that restic takes. Then press &quot;Run&quot;.</source>
+        <translation>Aún no hay nada que copiar.
+
+«Copia nueva» añade una fila. Elija la carpeta que se ha de copiar y el repositorio que guardará las copias: otra carpeta o cualquier dirección que restic acepte. Después pulse «Iniciar».</translation>
+    </message>
+    <message>
         <source>&amp;New backup</source>
         <translation>Copia &amp;nueva</translation>
     </message>
     <message>
         <source>Bandwidth &amp;limit:</source>
         <translation>&amp;Límite de velocidad:</translation>
+    </message>
+    <message>
+        <source>New backup</source>
+        <translation>Copia nueva</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not started: there is one run at a time.</source>
+        <translation>«%1» no se inició: solo se hace una cosa a la vez.</translation>
+    </message>
+    <message>
+        <source>Say first where the backups of &quot;%1&quot; are to be kept.</source>
+        <translation>Indique primero dónde se guardan las copias de «%1».</translation>
     </message>
     <message>
         <source>Password of the repository %1:</source>
@@ -361,20 +366,13 @@ Estado de salida:
         <source>Backing up &quot;%1&quot;</source>
         <translation>Copiando «%1»</translation>
     </message>
-</context>
-<context>
-    <name>JobsTable</name>
     <message>
-        <source>Backups</source>
-        <translation>Copias</translation>
+        <source>&quot;%1&quot; is running. Cancel it before you remove it.</source>
+        <translation>«%1» está en marcha. Cancélela antes de quitarla.</translation>
     </message>
     <message>
-        <source>There is nothing to back up yet.
-
-&quot;New backup&quot; adds a row. Choose the folder to back up and the repository that is to keep the backups: another folder, or any address that restic takes. Then press &quot;Run&quot;.</source>
-        <translation>Aún no hay nada que copiar.
-
-«Copia nueva» añade una fila. Elija la carpeta que se ha de copiar y el repositorio que guardará las copias: otra carpeta o cualquier dirección que restic acepte. Después pulse «Iniciar».</translation>
+        <source>Remove &quot;%1&quot; from the list? Its backups stay in the repository.</source>
+        <translation>¿Quitar «%1» de la lista? Sus copias se quedan en el repositorio.</translation>
     </message>
     <message>
         <source>Folder to back up</source>

@@ -47,6 +47,20 @@ QString shortTime(const QDateTime &time)
         time, isRecent ? QStringLiteral("d MMM hh:mm") : QStringLiteral("d MMM yyyy"));
 }
 
+// "rwxr-xr-x" as "755": the column is narrow.
+QString octal(const QString &permissions)
+{
+    QString digits;
+    for (int first = 0; first + 2 < permissions.size(); first += 3) {
+        int digit = 0;
+        for (int bit = first; bit < first + 3; ++bit) {
+            digit = digit * 2 + (permissions.at(bit) == QLatin1Char('-') ? 0 : 1);
+        }
+        digits += QString::number(digit);
+    }
+    return digits;
+}
+
 QString cellText(const SnapshotFile &file, int column)
 {
     switch (column) {
@@ -57,7 +71,7 @@ QString cellText(const SnapshotFile &file, int column)
     case FileListModel::Type:
         return typeText(file);
     case FileListModel::Rights:
-        return file.permissions.right(9); // before them stands the type
+        return octal(file.permissions.right(9)); // before them stands the type
     default:
         return file.path;
     }

@@ -173,7 +173,11 @@ void FilesPage::listFiles()
 
 void FilesPage::showOutcome(const Outcome &outcome)
 {
-    m_hint->setText(outcome.text());
+    if (outcome.kind == Outcome::WrongPassword) {
+        m_job.password.clear(); // the next time it is asked for
+    }
+    const bool isEmpty = outcome.isGood() && m_snapshots->count() == 0;
+    m_hint->setText(isEmpty ? tr("There is no snapshot yet.") : outcome.text());
 }
 
 void FilesPage::followRun(const Outcome &outcome)

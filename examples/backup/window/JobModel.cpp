@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "JobModel.h"
 
+#include <QDir>
+
 namespace {
 
 // Where the table's password column keeps what was typed; the cell itself holds the mask only.
@@ -11,35 +13,33 @@ QStandardItem *textItem(const QString &text)
     return new QStandardItem(text);
 }
 
-QStandardItem *buttonItem()
+void offer(QStringList *folders, const QString &folder)
 {
-    QStandardItem *cell = new QStandardItem;
-    cell->setEditable(false);
-    return cell;
+    if (!folder.isEmpty() && !folders->contains(folder)) {
+        folders->append(folder);
+    }
 }
 
 } // namespace
 
 JobModel::JobModel(const QList<BackupJob> &jobs, QObject *parent)
     : QStandardItemModel(0, ColumnCount, parent)
+    , m_sources(QStringList(QDir::homePath()))
 {
     setHorizontalHeaderLabels({tr("Name"), tr("Source"), tr("Repository"), tr("Password"),
                                tr("Check"), QString(), QString()});
     for (const BackupJob &job : jobs) {
         appendJob(job);
     }
-}
-
-QString JobModel::chooseEntry()
-{
-    return tr("Choose a folder...");
+    collectFolders();
+    connect(this, &JobModel::itemChanged, this, &JobModel::collectFolders);
 }
 
 void JobModel::appendJob(const BackupJob &job)
 {
     const QString verify = job.verify ? QStringLiteral("1") : QString();
     appendRow({textItem(job.name), textItem(job.source), textItem(job.repository),
-               textItem(QString()), textItem(verify), buttonItem(), buttonItem()});
+               textItem(QString()), textItem(verify), textItem(QString()), textItem(QString())});
 }
 
 BackupJob JobModel::job(int row) const
@@ -72,18 +72,10 @@ void JobModel::setRunningRow(int row)
     const int before = runningRow();
     m_running = index(row, Run);
     for (int changed : {before, row}) {
-        emit dataChanged(index(changed, Run), index(changed, Run));
+        if (changed >= 0) {
+            emit dataChanged(index(changed, Run), index(changed, Run));
+        }
     }
-}
-
-QString JobModel::runText(int row) const
-{
-    return (row == runningRow() ? tr("Cancel %1") : tr("Run %1")).arg(text(row, Name));
-}
-
-QString JobModel::removeText(int row) const
-{
-    return tr("Remove %1").arg(text(row, Name));
 }
 
 QVariant JobModel::data(const QModelIndex &index, int role) const
@@ -100,11 +92,26 @@ QVariant JobModel::data(const QModelIndex &index, int role) const
 
 bool JobModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (index.column() == Source && value.toString() == chooseEntry()) {
+    if (index.column() == Source && value.toString() == tr("Choose a folder...")) {
         emit sourceWanted(index.row());
         return false;
     }
     return QStandardItemModel::setData(index, value, role);
+}
+
+void JobModel::collectFolders()
+{
+    QStringList sources = m_sources.stringList();
+    QStringList repositories = m_repositories.stringList();
+    const QString choose = tr("Choose a folder...");
+    sources.removeAll(choose);
+    const QList<BackupJob> all = jobs();
+    for (const BackupJob &job : all) {
+        offer(&sources, job.source);
+        offer(&repositories, job.repository);
+    }
+    m_sources.setStringList(sources << choose);
+    m_repositories.setStringList(repositories);
 }
 
 QString JobModel::text(int row, Column column) const
@@ -115,6 +122,7 @@ QString JobModel::text(int row, Column column) const
 // A button covers its cell, and what is painted as a check box is a "1" to a screen reader.
 QVariant JobModel::accessibleText(const QModelIndex &index) const
 {
+    const QString name = text(index.row(), Name);
     const bool isEmpty = text(index.row(), Column(index.column())).isEmpty();
     switch (index.column()) {
     case Password:
@@ -122,8 +130,8 @@ QVariant JobModel::accessibleText(const QModelIndex &index) const
     case Verify:
         return isEmpty ? tr("Verify: no") : tr("Verify: yes");
     case Run:
-        return runText(index.row());
+        return (index.row() == runningRow() ? tr("Cancel %1") : tr("Run %1")).arg(name);
     default:
-        return removeText(index.row());
+        return tr("Remove %1").arg(name);
     }
 }

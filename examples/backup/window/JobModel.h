@@ -7,6 +7,7 @@
 #include <QList>
 #include <QPersistentModelIndex>
 #include <QStandardItemModel>
+#include <QStringListModel>
 
 /// The jobs as the table shows them, a row each.
 class JobModel : public QStandardItemModel
@@ -18,9 +19,6 @@ public:
 
     explicit JobModel(const QList<BackupJob> &jobs, QObject *parent = nullptr);
 
-    /// The entry among the sources that stands for a folder still to be chosen.
-    static QString chooseEntry();
-
     void appendJob(const BackupJob &job);
     BackupJob job(int row) const;
     QList<BackupJob> jobs() const;
@@ -29,9 +27,17 @@ public:
     int runningRow() const;
     void setRunningRow(int row);
 
-    /// What the button of the row is for, for those who do not see the row.
-    QString runText(int row) const;
-    QString removeText(int row) const;
+    /// What the combo boxes offer: all that was ever used here; the last of the sources stands for
+    /// a folder still to be chosen.
+    QStringListModel *sources()
+    {
+        return &m_sources;
+    }
+
+    QStringListModel *repositories()
+    {
+        return &m_repositories;
+    }
 
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
@@ -41,10 +47,13 @@ signals:
     void sourceWanted(int row);
 
 private:
+    void collectFolders();
     QString text(int row, Column column) const;
     QVariant accessibleText(const QModelIndex &index) const;
 
     QPersistentModelIndex m_running;
+    QStringListModel m_sources;
+    QStringListModel m_repositories;
 };
 
 #endif

@@ -6,8 +6,9 @@
 
 #include <QWidget>
 
+class EditableTableView;
 class JobModel;
-class JobsTable;
+class QLabel;
 class SpinBox;
 
 /// The table of jobs and what a run of them takes.
@@ -38,20 +39,30 @@ signals:
     /// A sentence for the status bar.
     void message(const QString &text);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private slots:
     void actOnClick(QWidget *button, int row, int column);
     void announceCurrentJob();
+    void shareWidth();
+    void dressButtons();
+    void chooseSource(int row);
     void endRun();
 
 private:
+    void setUpTable();
+    void setUpWidths();
     void setUpBandwidthLimit();
     void setUpLayout();
+    void editCell(int row, int column);
     void askPassword(int row);
     void start(int row, const BackupJob &job);
 
     BackupRun *m_run;
     JobModel *m_jobs;
-    JobsTable *m_table;
+    EditableTableView *m_table;
+    QLabel *m_hint; ///< How to begin, where there is no job.
     SpinBox *m_bandwidthLimit; ///< Of the next run.
 };
 

@@ -4,10 +4,10 @@
 #include "BackupRun.h"
 #include "FileListModel.h"
 #include "JobModel.h"
-#include "JobsTable.h"
 #include "MainWindow.h"
 #include "Translators.h"
 
+#include <EditableTableView.h>
 #include <SpinBox.h>
 
 #include <QApplication>
@@ -29,16 +29,8 @@
 
 namespace {
 
-const int patienceMilliseconds = 60000;
 const QString password(QStringLiteral("correct horse"));
-
-QPalette darkPalette()
-{
-    QPalette palette(QColor(53, 53, 53));
-    palette.setColor(QPalette::Base, QColor(35, 35, 35));
-    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    return palette;
-}
+const QSize usualSize(960, 560);
 
 void writeSampleTree(const QString &folder)
 {
@@ -54,13 +46,13 @@ void writeSampleTree(const QString &folder)
     }
 }
 
-BackupJob job(const QString &name, const QString &source, const QString &repository, bool verify)
+BackupJob job(const QString &name, const QString &source, const QString &repository)
 {
     BackupJob job;
     job.name = name;
     job.source = source;
     job.repository = repository;
-    job.verify = verify;
+    job.verify = true;
     return job;
 }
 
@@ -74,30 +66,27 @@ public:
         , m_store(m_scratch.filePath(QStringLiteral("jobs.ini")))
     {
         const QString source = m_scratch.filePath(QStringLiteral("Documents"));
-        const QString repository = m_scratch.filePath(QStringLiteral("repository"));
         writeSampleTree(source);
-        m_store.save({job(QStringLiteral("Documents"), source, repository, true),
+        m_store.save({job(QStringLiteral("Documents"), source,
+                          m_scratch.filePath(QStringLiteral("repository"))),
                       job(QStringLiteral("Pictures"), QStringLiteral("/home/anna/Pictures"),
-                          QStringLiteral("sftp:backup.example.org:/srv/anna"), true),
-                      job(QStringLiteral("Mail"), QStringLiteral("/home/anna/Mail"),
-                          QStringLiteral("/media/disk/mail"), false)});
+                          QStringLiteral("sftp:backup.example.org:/srv/anna"))});
     }
 
     int run()
     {
-        open(QLocale::English, QSize(960, 560));
-        take(QStringLiteral("jobs"));
-        backUp();
-        takePages(QStringLiteral("finished"));
+        takeBackup();
         takeErrors();
-        QApplication::setPalette(darkPalette());
-        takeWindow(QLocale::English, QSize(960, 560), QStringLiteral("dark"));
+        QPalette dark(QColor(53, 53, 53));
+        dark.setColor(QPalette::Base, QColor(35, 35, 35));
+        QApplication::setPalette(dark);
+        takePages(QStringLiteral("dark"), QLocale::English, usualSize);
         QApplication::setPalette(QApplication::style()->standardPalette());
-        takeWindow(QLocale::German, QSize(960, 560), QStringLiteral("german"));
-        takeWindow(QLocale::Spanish, QSize(960, 560), QStringLiteral("spanish"));
-        takeWindow(QLocale::German, QSize(800, 600), QStringLiteral("800x600"));
+        takePages(QStringLiteral("german"), QLocale::German, usualSize);
+        takePages(QStringLiteral("spanish"), QLocale::Spanish, usualSize);
+        takePages(QStringLiteral("800x600"), QLocale::German, QSize(800, 600));
         m_scale = 2;
-        takeWindow(QLocale::German, QSize(1366, 768) / m_scale, QStringLiteral("2x"));
+        takePages(QStringLiteral("2x"), QLocale::German, QSize(1366, 768) / m_scale);
         return m_exitStatus;
     }
 
@@ -120,31 +109,28 @@ private:
     {
         QElapsedTimer timer;
         timer.start();
-        while (!condition() && timer.elapsed() < patienceMilliseconds) {
+        while (!condition() && timer.elapsed() < 60000) {
             QApplication::processEvents(QEventLoop::AllEvents, 20);
         }
         m_exitStatus = condition() ? m_exitStatus : 1;
     }
 
-    void take(const QString &name, QWidget *widget = nullptr)
+    void take(const QString &name, QWidget *widget)
     {
         QApplication::processEvents();
-        widget = widget ? widget : m_window.get();
         QPixmap picture(widget->size() * m_scale);
         picture.setDevicePixelRatio(m_scale);
         widget->render(&picture);
         const QString path = QDir(m_pictures).filePath(name + QStringLiteral(".png"));
-        if (!QDir().mkpath(m_pictures) || !picture.save(path)) {
-            std::fprintf(stderr, "%s could not be written\n", qPrintable(path));
-            m_exitStatus = 1;
-        }
-        std::printf("%s\n", qPrintable(path));
+        const bool isWritten = QDir().mkpath(m_pictures) && picture.save(path);
+        std::printf("%s%s\n", qPrintable(path), isWritten ? "" : " could not be written");
+        m_exitStatus = isWritten ? m_exitStatus : 1;
     }
 
     void takePages(const QString &name)
     {
         const QStringList pages
-            = {QStringLiteral("jobs"), QStringLiteral("files"), QStringLiteral("throughput")};
+            = {QStringLiteral("jobs-"), QStringLiteral("files-"), QStringLiteral("throughput-")};
         QTabWidget *tabs = find<QTabWidget>();
         for (int page = 0; page < tabs->count(); ++page) {
             tabs->setCurrentIndex(page);
@@ -152,90 +138,87 @@ private:
                 return page != 1 || find<BackupRun>()->isRunning()
                     || find<FileListModel>()->rowCount() > 1;
             });
-            take(pages.at(page) + QLatin1Char('-') + name);
+            take(pages.at(page) + name, m_window.get());
         }
         tabs->setCurrentIndex(0);
     }
 
-    void takeWindow(QLocale::Language language, const QSize &size, const QString &name)
+    void takePages(const QString &name, QLocale::Language language, const QSize &size)
     {
         open(language, size);
         typePassword(password);
         takePages(name);
     }
 
-    /// Types it into the first job's cell, and leaves the cell after a picture.
-    void typePassword(const QString &text, const QString &picture = QString())
+    void typePassword(const QString &text)
     {
-        JobsTable *table = find<JobsTable>();
-        table->editCell(0, JobModel::Password);
-        if (QLineEdit *field = qobject_cast<QLineEdit *>(table->button(0, JobModel::Password))) {
-            field->insert(text);
-        }
-        if (!picture.isEmpty()) {
-            take(picture);
-        }
+        EditableTableView *table = find<EditableTableView>();
+        table->setCurrentIndex(table->model()->index(0, JobModel::Password));
+        table->edit(table->currentIndex());
+        table->findChild<QLineEdit *>()->insert(text);
         table->setCurrentIndex(table->model()->index(0, JobModel::Name));
     }
 
     void clickRun()
     {
-        static_cast<QPushButton *>(find<JobsTable>()->button(0, JobModel::Run))->click();
+        QMetaObject::invokeMethod(find<EditableTableView>()->button(0, JobModel::Run), "click");
     }
 
     // Slowly, so that there is something to see of it.
-    void backUp()
+    void takeBackup()
     {
-        BackupRun *run = find<BackupRun>();
-        QObject::connect(run, &BackupRun::progressChanged, run,
-                         [this](const BackupProgress &progress) {
-                             m_fraction = progress.fraction;
-                         });
-        QObject::connect(run, &BackupRun::finished, run, [this](const Outcome &outcome) {
-            m_exitStatus = outcome.isGood() ? m_exitStatus : 1;
-        });
-        find<JobsTable>()->parentWidget()->findChild<SpinBox *>()->setValue(2000);
-        typePassword(password, QStringLiteral("jobs-editing"));
+        open(QLocale::English, usualSize);
+        typePassword(password);
+        find<EditableTableView>()->parentWidget()->findChild<SpinBox *>()->setValue(2000);
         clickRun();
         waitFor([] {
-            return QApplication::activeModalWidget();
+            return qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         });
         if (QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
             take(QStringLiteral("question"), box);
             box->button(QMessageBox::Yes)->click();
         }
         waitFor([this] {
-            return m_fraction > 0.6;
+            return find<BackupRun>()->bytesDone() > 0;
+        });
+        QElapsedTimer timer; // the chart has a value a second
+        timer.start();
+        waitFor([&timer] {
+            return timer.elapsed() > 1200;
         });
         takePages(QStringLiteral("running"));
-        waitFor([run] {
-            return !run->isRunning();
-        });
+        waitForEnd();
+        takePages(QStringLiteral("finished"));
     }
 
     void takeErrors()
     {
-        const QByteArray path = qgetenv("PATH");
         takeError(QStringLiteral("error-password"), QStringLiteral("wrong"));
+        const QByteArray path = qgetenv("PATH");
         qputenv("PATH", "");
         takeError(QStringLiteral("error-restic"), password);
         qputenv("PATH", path);
         const QList<BackupJob> jobs = m_store.load();
         m_store.save({});
-        open(QLocale::English, QSize(960, 560));
-        take(QStringLiteral("jobs-empty"));
+        open(QLocale::English, usualSize);
+        take(QStringLiteral("jobs-empty"), m_window.get());
         m_store.save(jobs);
     }
 
     void takeError(const QString &name, const QString &typed)
     {
-        open(QLocale::English, QSize(960, 560));
+        open(QLocale::English, usualSize);
         typePassword(typed);
         clickRun();
+        waitForEnd();
+        take(name, m_window.get());
+    }
+
+    void waitForEnd()
+    {
         waitFor([this] {
             return !find<BackupRun>()->isRunning();
         });
-        take(name);
     }
 
     QString m_pictures;
@@ -243,7 +226,6 @@ private:
     QTemporaryDir m_scratch;
     JobStore m_store;
     std::unique_ptr<MainWindow> m_window;
-    double m_fraction = 0; ///< How much of the backup has been seen done.
     int m_scale = 1;
     int m_exitStatus = 0;
 };
