@@ -57,7 +57,7 @@ QString Terminal::readPassword()
         ? QCoreApplication::translate("Terminal", "Password of the repository: ")
         : QCoreApplication::translate("Terminal", "Password of the repository (can be seen): ");
     std::fputs(qPrintable(prompt), stderr);
-    const QString password = readLine();
+    QString password = readLine();
     if (isHidden) {
         setEcho(true);
         std::fputs("\n", stderr);

@@ -9,6 +9,12 @@
 #include <QRegularExpression>
 #include <QTimer>
 
+namespace {
+
+const int waitMilliseconds = 200;
+
+} // namespace
+
 BackupRun::BackupRun(QObject *parent)
     : QObject(parent)
 {
@@ -16,21 +22,6 @@ BackupRun::BackupRun(QObject *parent)
     connect(&m_run, &ResticRun::textLine, this, &BackupRun::readText);
     connect(&m_run, &ResticRun::problemFound, this, &BackupRun::problemFound);
     connect(&m_run, &ResticRun::finished, this, &BackupRun::endStep);
-}
-
-bool BackupRun::isRunning() const
-{
-    return m_step != Nothing;
-}
-
-qint64 BackupRun::bytesDone() const
-{
-    return m_progress.bytesDone;
-}
-
-void BackupRun::setUploadLimit(int kibibytesPerSecond)
-{
-    m_uploadLimit = kibibytesPerSecond;
 }
 
 bool BackupRun::backUp(const BackupJob &job)
@@ -152,7 +143,9 @@ void BackupRun::endStep(const Outcome &outcome)
     if (m_step == TidyUp) {
         finish();
     } else if (m_step == Create || m_step == Unlock) {
-        outcome.isGood() ? startStep(m_interrupted) : endAs(outcome);
+        m_creation.reset();
+        const bool isThere = m_step == Create && outcome.details.contains("already");
+        outcome.isGood() || isThere ? startStep(m_interrupted) : endAs(outcome);
     } else if (m_step == Verify && outcome.isGood()) {
         m_outcome.wasVerified = true;
         finish();
@@ -193,10 +186,27 @@ void BackupRun::answer(bool yes)
         return;
     }
     m_waitsForAnswer = false;
-    if (yes) {
-        startStep(m_asked.constLast() == CreateRepository ? Create : Unlock);
-    } else {
+    if (!yes) {
         endAs(m_unanswered);
+    } else if (m_asked.constLast() == RemoveStaleLock) {
+        startStep(Unlock);
+    } else {
+        m_creation.reset(new QLockFile(Restic::creationLock(m_job.repository)));
+        m_creation->setStaleLockTime(0);
+        create();
+    }
+}
+
+// restic itself lets two of them make one repository, which is then of no use.
+void BackupRun::create()
+{
+    if (m_isCancelled) {
+        m_outcome.kind = Outcome::Cancelled;
+        finish();
+    } else if (m_creation->tryLock(0)) {
+        startStep(Create);
+    } else {
+        QTimer::singleShot(waitMilliseconds, this, &BackupRun::create);
     }
 }
 
@@ -230,6 +240,7 @@ void BackupRun::endAs(const Outcome &outcome)
 
 void BackupRun::finish()
 {
+    m_creation.reset();
     m_step = Nothing;
     m_job.password.clear();
     emit finished(m_outcome);

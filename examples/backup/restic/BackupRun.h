@@ -6,6 +6,10 @@
 #include "BackupProgress.h"
 #include "ResticRun.h"
 
+#include <QLockFile>
+
+#include <memory>
+
 /// A backup and its verifying, or a restore: one run of restic after the other, and what goes
 /// between them. One at a time.
 class BackupRun : public QObject
@@ -19,11 +23,20 @@ public:
 
     explicit BackupRun(QObject *parent = nullptr);
 
-    bool isRunning() const;
+    bool isRunning() const
+    {
+        return m_step != Nothing;
+    }
     /// By the backup under way, or the last one.
-    qint64 bytesDone() const;
+    qint64 bytesDone() const
+    {
+        return m_progress.bytesDone;
+    }
     /// 0 is none. From the next run on.
-    void setUploadLimit(int kibibytesPerSecond);
+    void setUploadLimit(int kibibytesPerSecond)
+    {
+        m_uploadLimit = kibibytesPerSecond;
+    }
 
     /// Each returns false, and nothing happens, while a run is under way; else finished() follows.
     /// With job.verify the backup is followed by verify().
@@ -55,6 +68,7 @@ private:
     QStringList arguments() const;
     void readMessage(const QJsonDocument &message);
     void readText(const QString &line);
+    void create();
     void endStep(const Outcome &outcome);
     bool goesOn(const Outcome &outcome) const;
     bool asks(const Outcome &outcome);
@@ -69,6 +83,8 @@ private:
     /// What is gone on with after an answer.
     Step m_interrupted = Nothing;
     QList<Question> m_asked;
+    /// Held while the repository is made.
+    std::unique_ptr<QLockFile> m_creation;
     bool m_waitsForAnswer = false;
     bool m_isCancelled = false;
     int m_uploadLimit = 0;

@@ -3,6 +3,7 @@
 
 #include "JobStore.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -59,6 +60,13 @@ QString Restic::sourcePath(const QString &typed)
 {
     const QFileInfo source(address(typed));
     return source.exists() ? source.canonicalFilePath() : source.absoluteFilePath();
+}
+
+QString Restic::creationLock(const QString &repository)
+{
+    const QByteArray name
+        = QCryptographicHash::hash(sourcePath(repository).toUtf8(), QCryptographicHash::Sha1);
+    return QDir::temp().filePath("tessaline-" + QString::fromLatin1(name.toHex()) + ".lock");
 }
 
 QStringList Restic::backUpArguments(const BackupJob &job, int kibibytesPerSecond)

@@ -26,6 +26,8 @@ QProcessEnvironment environment(const QString &repository);
 QStringList globalOptions();
 /// What the user typed, with "~" for the home folder.
 QString address(const QString &typed);
+/// A file to be locked by who makes this repository.
+QString creationLock(const QString &repository);
 /// What a backup is called with; a limit of 0 is none.
 QStringList backUpArguments(const BackupJob &job, int kibibytesPerSecond);
 /// An absolute path without links, which restic would store in place of what they lead to.

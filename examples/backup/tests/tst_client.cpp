@@ -38,6 +38,7 @@ private slots:
     void thePasswordIsSeenNowhere();
     void aTerminalIsAskedForThePassword();
     void twoClientsAtOnceBothSucceed();
+    void twoClientsAtOnceMakeOneRepository();
     void aFullDiskIsToldAndTheNextRunWorks();
 
 private:
@@ -289,6 +290,18 @@ void tst_Client::twoClientsAtOnceBothSucceed()
     QVERIFY(m_sandbox->isSound());
 }
 
+void tst_Client::twoClientsAtOnceMakeOneRepository()
+{
+    Client first(*m_sandbox);
+    Client second(*m_sandbox);
+    first.start(backUpArguments(*m_sandbox, {initOption}));
+    second.start(backUpArguments(*m_sandbox, {initOption}));
+    QCOMPARE(first.wait(), 0);
+    QCOMPARE(second.wait(), 0);
+    QCOMPARE(m_sandbox->snapshotCount(), 2);
+    QVERIFY(m_sandbox->isSound());
+}
+
 // On a disk of 6 MB, which exists for this script only.
 void tst_Client::aFullDiskIsToldAndTheNextRunWorks()
 {
@@ -320,7 +333,7 @@ void tst_Client::aFullDiskIsToldAndTheNextRunWorks()
     if (process.exitCode() != 0) {
         QSKIP("This system lets nobody mount a small disk.");
     }
-    const int full = output.indexOf("status 1\n");
+    const auto full = output.indexOf("status 1\n");
     QVERIFY2(full > 0 && output.indexOf("status 0\n") < full, output.constData());
     QVERIFY2(output.left(full).contains("no space left for the repository"), output.constData());
     QVERIFY2(output.mid(full).contains("no errors"), output.constData());
