@@ -6,6 +6,7 @@
 #   TESSALINE_QT_PACKAGE, TESSALINE_QT_COMPONENTS   what find_package() takes
 #   TESSALINE_QT_PKGCONFIG, TESSALINE_QT_DEBIAN_PACKAGE   how others call what its headers come in
 #   TESSALINE_QT_PREFIX, TESSALINE_QT_PLUGINS, TESSALINE_QT_PROGRAMS   where it is installed
+#   TESSALINE_QT_TRANSLATIONS            where the translations of Qt's own texts are
 #   tessaline_add_translations(variable file.ts...)      makes .qm files and lists them in the variable
 #   TESSALINE_QT_SUFFIX                  what tells the library's file name of this Qt from the others
 
@@ -78,6 +79,7 @@ endfunction()
 _tessaline_query_qmake(TESSALINE_QT_PREFIX QT_INSTALL_PREFIX)
 _tessaline_query_qmake(TESSALINE_QT_PLUGINS QT_INSTALL_PLUGINS)
 _tessaline_query_qmake(TESSALINE_QT_PROGRAMS QT_INSTALL_BINS)
+_tessaline_query_qmake(TESSALINE_QT_TRANSLATIONS QT_INSTALL_TRANSLATIONS)
 _tessaline_query_qmake(_tessaline_qt_libraries QT_INSTALL_LIBS)
 _tessaline_query_qmake(_tessaline_qt_version QT_VERSION)
 

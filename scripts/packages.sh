@@ -77,8 +77,10 @@ need_workflows() {
 
 # What any build takes. The fonts: without one, texts are blank and no error tells.
 packages_build="cmake ninja-build g++ fonts-dejavu-core"
-packages_qt5="qtbase5-dev libqwt-qt5-dev qttools5-dev qttools5-dev-tools"
-packages_qt6="qt6-base-dev libgl-dev libqt6opengl6-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqwt-qt6-dev?"
+packages_qt5="qtbase5-dev libqwt-qt5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n"
+packages_qt6="qt6-base-dev libgl-dev libqt6opengl6-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n libqwt-qt6-dev?"
+# The program behind the example.
+packages_example="restic"
 packages_fuzz="clang libclang-rt-dev"
 packages_memcheck="valgrind"
 packages_coverage="gcovr"

@@ -1,43 +1,38 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "CommandLine.h"
+#include "Console.h"
 #include "JobStore.h"
 #include "MainWindow.h"
 #include "Pictures.h"
+#include "Translators.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QLocale>
-#include <QTranslator>
 
 namespace {
 
-/// Speaks the user's language where there is a translation.
-void translate(QTranslator *translator, const QString &name, const QString &folder)
+// Without a locale, as in cron, Qt 5 takes no file's name for one that is not ASCII.
+void expectUtf8()
 {
-    if (translator->load(QLocale(), name, QStringLiteral("_"), folder)) {
-        QCoreApplication::installTranslator(translator);
+    QByteArray locale;
+    for (const char *name : {"LC_ALL", "LC_CTYPE", "LANG"}) {
+        locale = locale.isEmpty() ? qgetenv(name) : locale;
+    }
+    if (locale.isEmpty() || locale == "C" || locale == "POSIX") {
+        qputenv("LC_ALL", "C.UTF-8");
     }
 }
 
-/// The library has a few texts of its own; it loads no translation of them by itself.
-struct Translators
+int runInWindow(int argc, char **argv)
 {
-    Translators()
-    {
-        const QDir folder(QCoreApplication::applicationDirPath());
-        translate(&program, QStringLiteral("backup"),
-                  folder.filePath(QStringLiteral("translations")));
-        translate(&library, QStringLiteral("tessaline"), QStringLiteral(TESSALINE_TRANSLATIONS));
+    QApplication application(argc, argv);
+    Translators translators(QCoreApplication::applicationDirPath(), QLocale());
+    const CommandLine line = CommandLine::parse(QCoreApplication::arguments());
+    if (!line.error.isEmpty()) {
+        return Console::run(line);
     }
-
-    QTranslator program;
-    QTranslator library;
-};
-
-int openWindow(const CommandLine &commandLine)
-{
-    if (!commandLine.picturesFolder.isEmpty()) {
-        return takePictures(commandLine);
+    if (line.task == CommandLine::TakePictures) {
+        return takePictures(line.folder, &translators);
     }
     MainWindow window((JobStore()));
     window.show();
@@ -48,14 +43,12 @@ int openWindow(const CommandLine &commandLine)
 
 int main(int argc, char **argv)
 {
-    // Without a window there need not be a display.
-    if (CommandLine::needsNoWindow(argc, argv)) {
-        QCoreApplication application(argc, argv);
-        const Translators translators;
-        return runFromCommandLine(CommandLine::parse(QCoreApplication::arguments()));
+    expectUtf8();
+    QCoreApplication::setApplicationVersion(QStringLiteral(BACKUP_VERSION));
+    if (CommandLine::needsDisplay(argc, argv)) {
+        return runInWindow(argc, argv);
     }
-    QApplication application(argc, argv);
-    const Translators translators;
-    const CommandLine commandLine = CommandLine::parse(QCoreApplication::arguments());
-    return commandLine.opensWindow() ? openWindow(commandLine) : runFromCommandLine(commandLine);
+    QCoreApplication application(argc, argv);
+    const Translators translators(QCoreApplication::applicationDirPath(), QLocale());
+    return Console::run(CommandLine::parse(QCoreApplication::arguments()));
 }

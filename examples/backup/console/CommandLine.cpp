@@ -1,169 +1,130 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "CommandLine.h"
 
-#include "BackupEngine.h"
-#include "ConsoleReporter.h"
-#include "InterruptWatcher.h"
-
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
-#include <cstdio>
-#include <cstring>
-#include <string>
-
 namespace {
 
-const int refusedStatus = 2;
-
-const QLatin1String sourceOption("source");
-const QLatin1String targetOption("target");
-const QLatin1String verifyOption("verify");
-const QLatin1String runOption("run");
-const QLatin1String passphraseOption("passphrase-from-stdin");
-const QLatin1String picturesOption("pictures");
-const QLatin1String helpOption("help");
+const char *const exitStatusText = QT_TRANSLATE_NOOP(
+    "CommandLine",
+    "The password is the first line of the standard input; on a terminal it is asked for.\n"
+    "Exit status:\n"
+    "  0  done\n"
+    "  1  failed\n"
+    "  2  the arguments make no sense, or something is missing: restic, source, repository, "
+    "password\n"
+    "  3  backed up, but for some files that could not be read\n"
+    "  4  verifying found damage\n"
+    "  5  wrong password\n"
+    "  6  the repository is locked\n");
 
 void addOptions(QCommandLineParser *parser)
 {
-    const QString folder = QStringLiteral("DIR");
-    parser->setApplicationDescription(
-        QCoreApplication::translate("CommandLine", "Mirrors a folder and checks the copy."));
-    parser->addOption({sourceOption,
-                       QCoreApplication::translate("CommandLine", "Copy the content of DIR."),
-                       folder});
-    parser->addOption(
-        {targetOption, QCoreApplication::translate("CommandLine", "Copy into DIR."), folder});
-    parser->addOption(
-        {runOption, QCoreApplication::translate("CommandLine", "Copy at once, without a window.")});
-    parser->addOption({verifyOption,
-                       QCoreApplication::translate(
-                           "CommandLine", "Read the copy back; after copying if with --run.")});
-    parser->addOption(
-        {passphraseOption,
-         QCoreApplication::translate("CommandLine",
-                                     "Read the passphrase for the manifest's signature from the "
-                                     "first line of the standard input.")});
-    parser->addOption(
-        {picturesOption,
-         QCoreApplication::translate("CommandLine", "Write pictures of the window into DIR."),
-         folder});
-    parser->addOption({{QStringLiteral("h"), helpOption},
-                       QCoreApplication::translate("CommandLine", "Show this help.")});
+    parser->setApplicationDescription(CommandLine::tr("Backups, by restic."));
+    parser->addOptions({
+        {"source", CommandLine::tr("Back up FOLDER."), "FOLDER"},
+        {"target", CommandLine::tr("A folder, or an address such as sftp:host:/path."),
+         "REPOSITORY"},
+        {"run", CommandLine::tr("Back up the source into the target.")},
+        {"verify", CommandLine::tr("Read all of the target back; after the backup if with --run.")},
+        {"restore",
+         CommandLine::tr(
+             "Restore SNAPSHOT, or the \"latest\", from the target into the folder named "
+             "last, which must be empty or new."),
+         "SNAPSHOT"},
+        {"snapshots", CommandLine::tr("List the snapshots in the target.")},
+        {"init", CommandLine::tr("Make the repository if it is not there.")},
+        {"unlock", CommandLine::tr("Remove a lock that a dead program left.")},
+        {"limit-upload", CommandLine::tr("Write RATE KB a second at most."), "RATE"},
+        {"quiet", CommandLine::tr("Say nothing unless something is wrong.")},
+        {"pictures", CommandLine::tr("Write pictures of the window into FOLDER."), "FOLDER"},
+        {"version", CommandLine::tr("Show the version.")},
+        {{"h", "help"}, CommandLine::tr("Show this help.")},
+    });
 }
 
-QString errorOf(const QCommandLineParser &parser, const CommandLine &commandLine)
+CommandLine::Task taskOf(const QCommandLineParser &parser)
 {
-    if (!parser.positionalArguments().isEmpty()) {
-        return QCoreApplication::translate("CommandLine", "Unexpected argument: %1")
-            .arg(parser.positionalArguments().constFirst());
+    const QPair<const char *, CommandLine::Task> tasks[]
+        = {{"help", CommandLine::ShowHelp},         {"version", CommandLine::ShowVersion},
+           {"pictures", CommandLine::TakePictures}, {"run", CommandLine::BackUp},
+           {"restore", CommandLine::Restore},       {"snapshots", CommandLine::Snapshots},
+           {"verify", CommandLine::Verify}};
+    for (const auto &candidate : tasks) {
+        if (parser.isSet(QLatin1String(candidate.first))) {
+            return candidate.second;
+        }
     }
-    if (commandLine.wantsRun && commandLine.sourceFolder.isEmpty()) {
-        return QCoreApplication::translate("CommandLine", "--run needs --source.");
+    return CommandLine::OpenWindow;
+}
+
+QString errorOf(const QCommandLineParser &parser, const CommandLine &line)
+{
+    const int expected = line.task == CommandLine::Restore ? 1 : 0;
+    if (parser.positionalArguments().size() > expected) {
+        return CommandLine::tr("Unexpected argument: %1")
+            .arg(parser.positionalArguments().constLast());
     }
-    if (!commandLine.opensWindow() && commandLine.targetFolder.isEmpty()) {
-        return QCoreApplication::translate("CommandLine", "--run and --verify need --target.");
+    if (line.task == CommandLine::Restore && line.folder.isEmpty()) {
+        return CommandLine::tr("--restore needs a snapshot and a folder.");
+    }
+    if (line.task == CommandLine::BackUp && line.job.source.isEmpty()) {
+        return CommandLine::tr("--run needs --source.");
+    }
+    if (line.task >= CommandLine::BackUp && line.job.repository.isEmpty()) {
+        return CommandLine::tr("This needs --target.");
+    }
+    if (line.task == CommandLine::OpenWindow && !parser.optionNames().isEmpty()) {
+        return CommandLine::tr("What is to be done? Say --run, --verify, "
+                               "--restore or --snapshots.");
+    }
+    if (parser.isSet("limit-upload") && line.uploadLimit <= 0) {
+        return CommandLine::tr("--limit-upload needs a number above 0.");
     }
     return QString();
 }
 
-QString passphraseFromStdin()
-{
-    std::string line;
-    for (int character = std::getchar(); character != EOF && character != '\n';
-         character = std::getchar()) {
-        line.push_back(static_cast<char>(character));
-    }
-    return QString::fromStdString(line);
-}
-
-BackupJob jobFrom(const CommandLine &commandLine)
-{
-    BackupJob job;
-    job.sourceFolder = commandLine.sourceFolder;
-    job.targetFolder = commandLine.targetFolder;
-    job.verifiesAfterRun = commandLine.wantsVerify;
-    if (commandLine.readsPassphraseFromStdin) {
-        job.passphrase = passphraseFromStdin();
-    }
-    return job;
-}
-
-int showHelp()
-{
-    QCommandLineParser parser;
-    addOptions(&parser);
-    std::fputs(qPrintable(parser.helpText()), stdout);
-    return 0;
-}
-
-int refuse(const QString &reason)
-{
-    std::fprintf(stderr, "%s\n", qPrintable(reason));
-    return refusedStatus;
-}
-
-int runJob(const BackupJob &job, bool copies)
-{
-    BackupEngine engine;
-    ConsoleReporter reporter(&engine);
-    InterruptWatcher interrupts;
-    QObject::connect(&interrupts, &InterruptWatcher::interrupted, &engine, &BackupEngine::cancel);
-    QObject::connect(&engine, &BackupEngine::finished, qApp, &QCoreApplication::quit);
-    QString refusal;
-    if (!(copies ? engine.start(job, &refusal) : engine.startVerify(job, &refusal))) {
-        return refuse(refusal);
-    }
-    QCoreApplication::exec();
-    return interrupts.signalNumber() ? 128 + interrupts.signalNumber() : reporter.exitStatus();
-}
-
 } // namespace
-
-bool CommandLine::opensWindow() const
-{
-    return !wantsRun && !wantsVerify && !wantsHelp && error.isEmpty();
-}
 
 CommandLine CommandLine::parse(const QStringList &arguments)
 {
     QCommandLineParser parser;
     addOptions(&parser);
-    CommandLine result;
+    CommandLine line;
     if (!parser.parse(arguments)) {
-        result.error = parser.errorText();
-        return result;
+        line.error = parser.errorText();
+        return line;
     }
-    result.sourceFolder = parser.value(sourceOption);
-    result.targetFolder = parser.value(targetOption);
-    result.picturesFolder = parser.value(picturesOption);
-    result.wantsVerify = parser.isSet(verifyOption);
-    result.wantsRun = parser.isSet(runOption);
-    result.readsPassphraseFromStdin = parser.isSet(passphraseOption);
-    result.wantsHelp = parser.isSet(helpOption);
-    result.error = result.wantsHelp ? QString() : errorOf(parser, result);
-    return result;
+    line.task = taskOf(parser);
+    line.job.source = parser.value("source");
+    line.job.repository = parser.value("target");
+    line.job.verify = parser.isSet("verify");
+    line.snapshot = parser.value("restore");
+    line.folder = parser.value("pictures") + parser.positionalArguments().value(0);
+    line.uploadLimit = parser.value("limit-upload").toInt();
+    line.createsRepository = parser.isSet("init");
+    line.removesStaleLock = parser.isSet("unlock");
+    line.isQuiet = parser.isSet("quiet");
+    line.error = errorOf(parser, line);
+    return line;
 }
 
-bool CommandLine::needsNoWindow(int argumentCount, char *const arguments[])
+QString CommandLine::helpText()
+{
+    QCommandLineParser parser;
+    addOptions(&parser);
+    return parser.helpText() + QLatin1Char('\n') + tr(exitStatusText);
+}
+
+bool CommandLine::needsDisplay(int argumentCount, char *const arguments[])
 {
     for (int index = 1; index < argumentCount; ++index) {
-        for (const char *option : {"--run", "--verify", "--help", "-h"}) {
-            if (std::strcmp(arguments[index], option) == 0) {
-                return true;
-            }
+        if (QByteArray(arguments[index]).startsWith("--pictures")) {
+            return true;
         }
     }
-    return false;
-}
-
-int runFromCommandLine(const CommandLine &commandLine)
-{
-    if (commandLine.wantsHelp) {
-        return showHelp();
-    }
-    if (!commandLine.error.isEmpty()) {
-        return refuse(commandLine.error);
-    }
-    return runJob(jobFrom(commandLine), commandLine.wantsRun);
+    // Qt's own options, such as -style, have one dash.
+    const QByteArray first = argumentCount > 1 ? arguments[1] : "-style";
+    return first.startsWith('-') && !first.startsWith("--") && first != "-h";
 }

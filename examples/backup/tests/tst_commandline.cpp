@@ -1,285 +1,152 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "BackupTestTools.h"
 #include "CommandLine.h"
+#include "Console.h"
 
-#include <QCoreApplication>
-#include <QFile>
-#include <QProcess>
-#include <QScopedPointer>
 #include <QTest>
-
-#include <csignal>
-
-#include <unistd.h>
-
-namespace {
-
-/// What a child process said and how it ended.
-struct ChildResult
-{
-    int status = -1;
-    QByteArray output;
-    QByteArray errors;
-};
-
-} // namespace
-
-/// The test program runs itself as the command line program: with the argument below it is one.
-static const char childArgument[] = "--as-backup-program";
 
 class tst_CommandLine : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void readsTheOptions();
-    void startingWithoutOptionsOpensTheWindow();
-    void picturesBelongToTheWindow();
-    void understandsWhetherAWindowIsNeeded_data();
-    void understandsWhetherAWindowIsNeeded();
-    void rejectsWhatMakesNoSense_data();
-    void rejectsWhatMakesNoSense();
-    void aRunCopiesAndSaysSo();
-    void aRunWithVerifyReadsBack();
-    void verifyAloneFindsDifferences();
-    void aFailedFileGivesStatusOne();
-    void aSkippedPipeGivesStatusZero();
-    void aRefusalGivesStatusTwo();
-    void theHelpNamesTheOptions();
-    void thePassphraseComesFromTheStandardInput();
-    void noProgressIsWrittenToAPipe();
-    void interruptingEndsInGoodOrder_data();
-    void interruptingEndsInGoodOrder();
-
-private:
-    ChildResult runChild(const QStringList &arguments,
-                         const QByteArray &input = QByteArray()) const;
-    QStringList folderArguments() const;
-
-    QScopedPointer<BackupFolders> m_folders;
+    void understandsWhatToDo_data();
+    void understandsWhatToDo();
+    void readsTheValues();
+    void refusesWhatMakesNoSense_data();
+    void refusesWhatMakesNoSense();
+    void theWindowAloneNeedsADisplay_data();
+    void theWindowAloneNeedsADisplay();
+    void theHelpNamesOptionsAndExitStatus();
 };
 
-void tst_CommandLine::init()
+namespace {
+
+QStringList words(const char *line)
 {
-    m_folders.reset(new BackupFolders);
-    m_folders->write("file", "content");
+    return QString::fromLatin1(line).split(QLatin1Char(' '));
 }
 
-ChildResult tst_CommandLine::runChild(const QStringList &arguments, const QByteArray &input) const
+} // namespace
+
+void tst_CommandLine::understandsWhatToDo_data()
 {
-    QProcess process;
-    process.start(QCoreApplication::applicationFilePath(),
-                  QStringList(QString::fromLatin1(childArgument)) + arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    ChildResult result;
-    if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {
-        result.status = process.exitCode();
-    }
-    result.output = process.readAllStandardOutput();
-    result.errors = process.readAllStandardError();
-    return result;
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<int>("task");
+    QTest::newRow("nothing") << "backup" << int(CommandLine::OpenWindow);
+    QTest::newRow("pictures") << "backup --pictures p" << int(CommandLine::TakePictures);
+    QTest::newRow("help") << "backup --help" << int(CommandLine::ShowHelp);
+    QTest::newRow("short help") << "backup -h" << int(CommandLine::ShowHelp);
+    QTest::newRow("version") << "backup --version" << int(CommandLine::ShowVersion);
+    QTest::newRow("run") << "backup --source s --target t --run" << int(CommandLine::BackUp);
+    QTest::newRow("run, verify") << "backup --source s --target t --run --verify"
+                                 << int(CommandLine::BackUp);
+    QTest::newRow("verify") << "backup --target t --verify" << int(CommandLine::Verify);
+    QTest::newRow("restore") << "backup --target t --restore id f" << int(CommandLine::Restore);
+    QTest::newRow("snapshots") << "backup --target t --snapshots" << int(CommandLine::Snapshots);
 }
 
-QStringList tst_CommandLine::folderArguments() const
+void tst_CommandLine::understandsWhatToDo()
 {
-    return {QStringLiteral("--source"), m_folders->job.sourceFolder, QStringLiteral("--target"),
-            m_folders->job.targetFolder};
+    QFETCH(QString, line);
+    QFETCH(int, task);
+    const CommandLine result = CommandLine::parse(line.split(QLatin1Char(' ')));
+    QCOMPARE(result.error, QString());
+    QCOMPARE(int(result.task), task);
 }
 
-void tst_CommandLine::readsTheOptions()
+void tst_CommandLine::readsTheValues()
 {
-    const CommandLine commandLine = CommandLine::parse(
-        {QStringLiteral("backup"), QStringLiteral("--source"), QStringLiteral("/a b"),
-         QStringLiteral("--target=/c"), QStringLiteral("--verify"), QStringLiteral("--run"),
-         QStringLiteral("--passphrase-from-stdin")});
-    QCOMPARE(commandLine.error, QString());
-    QCOMPARE(commandLine.sourceFolder, QStringLiteral("/a b"));
-    QCOMPARE(commandLine.targetFolder, QStringLiteral("/c"));
-    QVERIFY(commandLine.wantsVerify);
-    QVERIFY(commandLine.wantsRun);
-    QVERIFY(commandLine.readsPassphraseFromStdin);
-    QVERIFY(!commandLine.opensWindow());
+    CommandLine line
+        = CommandLine::parse(words("backup --source s --target=sftp:h:/t --run --verify --init "
+                                   "--unlock --quiet --limit-upload 7"));
+    QCOMPARE(line.job.source, QStringLiteral("s"));
+    QCOMPARE(line.job.repository, QStringLiteral("sftp:h:/t"));
+    QVERIFY(line.job.verify);
+    QVERIFY(line.createsRepository);
+    QVERIFY(line.removesStaleLock);
+    QVERIFY(line.isQuiet);
+    QCOMPARE(line.uploadLimit, 7);
+    line = CommandLine::parse(words("backup --target t --restore abc f"));
+    QCOMPARE(line.snapshot, QStringLiteral("abc"));
+    QCOMPARE(line.folder, QStringLiteral("f"));
+    QVERIFY(!line.job.verify);
+    QVERIFY(!line.createsRepository);
+    QVERIFY(!line.removesStaleLock);
+    QCOMPARE(CommandLine::parse(words("backup --pictures p")).folder, QStringLiteral("p"));
 }
 
-void tst_CommandLine::startingWithoutOptionsOpensTheWindow()
+void tst_CommandLine::refusesWhatMakesNoSense_data()
 {
-    const CommandLine commandLine = CommandLine::parse({QStringLiteral("backup")});
-    QVERIFY(commandLine.opensWindow());
-    QVERIFY(!commandLine.wantsRun);
-}
-
-void tst_CommandLine::picturesBelongToTheWindow()
-{
-    const CommandLine commandLine = CommandLine::parse(
-        {QStringLiteral("backup"), QStringLiteral("--pictures"), QStringLiteral("/p")});
-    QVERIFY(commandLine.opensWindow());
-    QCOMPARE(commandLine.picturesFolder, QStringLiteral("/p"));
-}
-
-void tst_CommandLine::understandsWhetherAWindowIsNeeded_data()
-{
-    QTest::addColumn<QByteArray>("argument");
-    QTest::addColumn<bool>("needsNoWindow");
-    QTest::newRow("run") << QByteArray("--run") << true;
-    QTest::newRow("verify") << QByteArray("--verify") << true;
-    QTest::newRow("help") << QByteArray("--help") << true;
-    QTest::newRow("pictures") << QByteArray("--pictures") << false;
-    QTest::newRow("platform") << QByteArray("-platform") << false;
-}
-
-void tst_CommandLine::understandsWhetherAWindowIsNeeded()
-{
-    QFETCH(QByteArray, argument);
-    QFETCH(bool, needsNoWindow);
-    char name[] = "--run";
-    char *const arguments[] = {name, argument.data()};
-    QCOMPARE(CommandLine::needsNoWindow(2, arguments), needsNoWindow);
-}
-
-void tst_CommandLine::rejectsWhatMakesNoSense_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("unknown option") << QStringList{QStringLiteral("--frobnicate")};
-    QTest::newRow("missing value") << QStringList{QStringLiteral("--source")};
-    QTest::newRow("stray argument") << QStringList{QStringLiteral("stray")};
-    QTest::newRow("run without folders") << QStringList{QStringLiteral("--run")};
-    QTest::newRow("run without target")
-        << QStringList{QStringLiteral("--run"), QStringLiteral("--source"), QStringLiteral("/a")};
-    QTest::newRow("run without source")
-        << QStringList{QStringLiteral("--run"), QStringLiteral("--target"), QStringLiteral("/a")};
-    QTest::newRow("verify without target") << QStringList{QStringLiteral("--verify")};
-}
-
-void tst_CommandLine::rejectsWhatMakesNoSense()
-{
-    QFETCH(QStringList, arguments);
-    const ChildResult result = runChild(arguments);
-    QCOMPARE(result.status, 2);
-    QVERIFY(!result.errors.isEmpty());
-    QVERIFY(result.output.isEmpty());
-}
-
-void tst_CommandLine::aRunCopiesAndSaysSo()
-{
-    const ChildResult result = runChild(folderArguments() << QStringLiteral("--run"));
-    QCOMPARE(result.status, 0);
-    QCOMPARE(readFile(m_folders->copy("file")), QByteArray("content"));
-    QVERIFY(result.output.contains("1 new"));
-    QVERIFY(result.output.contains("0 verified"));
-    QVERIFY(result.output.contains("7 bytes"));
-}
-
-void tst_CommandLine::aRunWithVerifyReadsBack()
-{
-    const ChildResult result
-        = runChild(folderArguments() << QStringLiteral("--run") << QStringLiteral("--verify"));
-    QCOMPARE(result.status, 0);
-    QVERIFY(result.output.contains("1 verified"));
-}
-
-void tst_CommandLine::verifyAloneFindsDifferences()
-{
-    m_folders->run();
-    writeFile(m_folders->copy("file"), "damaged");
-    const ChildResult result = runChild(
-        {QStringLiteral("--verify"), QStringLiteral("--target"), m_folders->job.targetFolder});
-    QCOMPARE(result.status, 1);
-    QVERIFY(result.errors.startsWith("file: "));
-    QCOMPARE(readFile(m_folders->copy("file")), QByteArray("damaged"));
-}
-
-void tst_CommandLine::aFailedFileGivesStatusOne()
-{
-    // No folder can be put in the place of the manifest, so the manifest cannot be written.
-    PosixFile::makeFolder(m_folders->target());
-    PosixFile::makeFolder(m_folders->target("manifest.sha256"));
-    const ChildResult result = runChild(folderArguments() << QStringLiteral("--run"));
-    QCOMPARE(result.status, 1);
-    QVERIFY(result.errors.startsWith("manifest.sha256: "));
-}
-
-void tst_CommandLine::aSkippedPipeGivesStatusZero()
-{
-    runProgram(QStringLiteral("mkfifo"), {QFile::decodeName(m_folders->source("pipe"))});
-    const ChildResult result = runChild(folderArguments() << QStringLiteral("--run"));
-    QCOMPARE(result.status, 0);
-    QVERIFY(result.errors.startsWith("pipe: "));
-}
-
-void tst_CommandLine::aRefusalGivesStatusTwo()
-{
-    m_folders->job.targetFolder = m_folders->job.sourceFolder;
-    const ChildResult result = runChild(folderArguments() << QStringLiteral("--run"));
-    QCOMPARE(result.status, 2);
-    QVERIFY(result.errors.contains("same folder"));
-}
-
-void tst_CommandLine::theHelpNamesTheOptions()
-{
-    const ChildResult result = runChild({QStringLiteral("--help")});
-    QCOMPARE(result.status, 0);
-    for (const char *option : {"--source", "--target", "--run", "--verify", "--pictures"}) {
-        QVERIFY(result.output.contains(option));
+    QTest::addColumn<QString>("line");
+    for (const char *line : {"backup --frobnicate",
+                             "backup stray",
+                             "backup --source",
+                             "backup --run",
+                             "backup --run --source s",
+                             "backup --run --target t",
+                             "backup --verify",
+                             "backup --snapshots",
+                             "backup --restore id f",
+                             "backup --target t --restore id",
+                             "backup --target t --restore id f stray",
+                             "backup --target t --snapshots stray",
+                             "backup --source s --target t",
+                             "backup --init",
+                             "backup --quiet",
+                             "backup --source s --target t --run --limit-upload fast",
+                             "backup --source s --target t --run --limit-upload 0",
+                             "backup --source s --target t --run --limit-upload -5",
+                             "backup --source= --target t --run",
+                             "backup --source s --target= --run"}) {
+        QTest::newRow(line) << QString::fromLatin1(line);
     }
 }
 
-void tst_CommandLine::thePassphraseComesFromTheStandardInput()
+void tst_CommandLine::refusesWhatMakesNoSense()
 {
-    const ChildResult result = runChild(
-        folderArguments() << QStringLiteral("--run") << QStringLiteral("--passphrase-from-stdin"),
-        "gr\xc3\xbc\xc3\x9f dich\nsecond line\n");
-    QCOMPARE(result.status, 0);
-    m_folders->job.passphrase = QString::fromUtf8("gr\xc3\xbc\xc3\x9f dich");
-    QVERIFY(m_folders->verify().summary.isComplete());
+    QFETCH(QString, line);
+    const CommandLine result = CommandLine::parse(line.split(QLatin1Char(' ')));
+    QVERIFY(!result.error.isEmpty());
+    QCOMPARE(Console::run(result), 2);
 }
 
-void tst_CommandLine::noProgressIsWrittenToAPipe()
+void tst_CommandLine::theWindowAloneNeedsADisplay_data()
 {
-    const ChildResult result = runChild(folderArguments() << QStringLiteral("--run"));
-    QVERIFY(result.errors.isEmpty());
-    QVERIFY(!result.output.contains('\r'));
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<bool>("needs");
+    QTest::newRow("window") << "backup" << true;
+    QTest::newRow("Qt's own option") << "backup -style fusion" << true;
+    QTest::newRow("pictures") << "backup --pictures p" << true;
+    QTest::newRow("pictures=") << "backup --pictures=p" << true;
+    QTest::newRow("run") << "backup --run" << false;
+    QTest::newRow("source first") << "backup --source s --target t --run" << false;
+    QTest::newRow("help") << "backup -h" << false;
+    QTest::newRow("version") << "backup --version" << false;
+    QTest::newRow("nonsense") << "backup stray" << false;
 }
 
-void tst_CommandLine::interruptingEndsInGoodOrder_data()
+void tst_CommandLine::theWindowAloneNeedsADisplay()
 {
-    QTest::addColumn<int>("number");
-    QTest::newRow("interrupt") << SIGINT;
-    QTest::newRow("terminate") << SIGTERM;
-}
-
-void tst_CommandLine::interruptingEndsInGoodOrder()
-{
-    QFETCH(int, number);
-    // Large, but without a block on disk.
-    QCOMPARE(::truncate(m_folders->source("file").constData(), 2000 * 1024 * 1024ll), 0);
-    QProcess process;
-    process.start(QCoreApplication::applicationFilePath(),
-                  QStringList(QString::fromLatin1(childArgument)) + folderArguments()
-                      << QStringLiteral("--run"));
-    // The work folder shows that copying has begun.
-    QTRY_VERIFY(exists(m_folders->target("data.unfinished")));
-
-    ::kill(static_cast<pid_t>(process.processId()), number);
-
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.exitCode(), 128 + number);
-    QVERIFY(process.readAllStandardOutput().contains("Cancelled"));
-    QVERIFY(!exists(m_folders->target("data.unfinished")));
-    QVERIFY(namesIn(m_folders->copy()).isEmpty());
-}
-
-int main(int argc, char *argv[])
-{
-    QCoreApplication application(argc, argv);
-    QStringList arguments = application.arguments();
-    if (arguments.removeAll(QString::fromLatin1(childArgument)) > 0) {
-        return runFromCommandLine(CommandLine::parse(arguments));
+    QFETCH(QString, line);
+    QFETCH(bool, needs);
+    QList<QByteArray> arguments = line.toLatin1().split(' ');
+    QVector<char *> pointers;
+    for (QByteArray &argument : arguments) {
+        pointers.append(argument.data());
     }
-    tst_CommandLine test;
-    return QTest::qExec(&test, argc, argv);
+    QCOMPARE(CommandLine::needsDisplay(int(pointers.size()), pointers.constData()), needs);
 }
 
+void tst_CommandLine::theHelpNamesOptionsAndExitStatus()
+{
+    const QString help = CommandLine::helpText();
+    for (const char *option :
+         {"--source", "--target", "--run", "--verify", "--restore", "--snapshots", "--init",
+          "--unlock", "--limit-upload", "--quiet", "--pictures", "--version", "--help",
+          "Exit status", "standard input"}) {
+        QVERIFY2(help.contains(QLatin1String(option)), option);
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_CommandLine)
 #include "tst_commandline.moc"

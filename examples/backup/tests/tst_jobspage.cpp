@@ -1,298 +1,351 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "BackupTestTools.h"
-#include "JobModel.h"
-#include "JobsPage.h"
-#include "MainWindow.h"
-
-#include <EditableTableView.h>
+#include "WindowTools.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
-#include <QFile>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTreeWidget>
+#include <QStatusBar>
 #include <QtTest>
-
-#include <memory>
-
-#include <sys/stat.h>
-
-namespace {
-
-/// The program's window with one job, whose source holds two files.
-class Window
-{
-public:
-    Window()
-        : m_storePath(m_scratch.filePath(QStringLiteral("jobs.ini")))
-    {
-        folders.job.name = QStringLiteral("Letters");
-        folders.write("a", "first");
-        folders.write("b/c", "second");
-        JobStore(m_storePath).save({folders.job});
-        m_window.reset(new MainWindow(JobStore(m_storePath)));
-        m_window->show();
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    }
-
-    MainWindow *window() const
-    {
-        return m_window.get();
-    }
-
-    JobsPage *page() const
-    {
-        return m_window->jobsPage();
-    }
-
-    EditableTableView *table() const
-    {
-        return page()->table();
-    }
-
-    /// Opens the editor of a cell with the edit key.
-    QWidget *edit(int row, int column) const
-    {
-        const QModelIndex cell = page()->jobs()->index(row, column);
-        table()->setFocus();
-        table()->setCurrentIndex(cell);
-        QTest::keyClick(table(), Qt::Key_F2);
-        return table()->indexWidget(cell);
-    }
-
-    void click(int row, int column) const
-    {
-        QTest::mouseClick(table()->button(row, column), Qt::LeftButton);
-    }
-
-    bool shows(const QString &text) const
-    {
-        for (const QLabel *label : m_window->findChildren<QLabel *>()) {
-            if (label->text().contains(text)) {
-                return true;
-            }
-        }
-        return false;
-    }
-
-    QByteArray storedBytes() const
-    {
-        return readFile(QFile::encodeName(m_storePath));
-    }
-
-    QList<BackupJob> stored() const
-    {
-        return JobStore(m_storePath).load();
-    }
-
-    BackupFolders folders;
-
-private:
-    QTemporaryDir m_scratch;
-    QString m_storePath;
-    std::unique_ptr<MainWindow> m_window;
-};
-
-} // namespace
 
 class tst_JobsPage : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void showsTheStoredJobs();
-    void runsAJobFromItsButton();
-    void saysWhyAJobIsRefused();
-    void refusesASecondJobWhileOneRuns();
-    void keepsAnEditedNameInTheStore();
-    void offersTheJobsSourceAndAddedFolders();
-    void offersUsedTargets();
-    void signsWithATypedPassphraseAndNeverStoresIt();
-    void listsProblems();
-    void removesAJobAndLeavesItsCopies();
+    void makesTheRepositoryAndBacksUp();
+    void makesNoRepositoryWithoutConsent();
+    void tellsAWrongPassword();
+    void asksForAMissingPassword();
+    void startsNothingWithoutAPassword();
+    void neverStoresAPassword();
+    void asksForAMissingRepository();
+    void cancelsFromTheButtonOfTheRow();
+    void keepsTheHeadlineWhenAnotherRunIsRefused();
+    void marksTheRunningRowInARebuiltTable();
+    void marksTheRunningRowWhenAnotherIsRemoved();
+    void keepsAJobThatRuns();
+    void removesAJobIfTheUserAgrees_data();
+    void removesAJobIfTheUserAgrees();
     void addsAJobAndOpensItsName();
-    void cancelsARunBeforeItCloses();
+    void saysHowToBegin();
+    void takesAChoiceAtOnce();
+    void choosesASourceInADialog();
+    void offersRepositoriesThatWereTyped();
+    void saysWhatACellIs_data();
+    void saysWhatACellIs();
+    void keepsAllColumnsInSight_data();
+    void keepsAllColumnsInSight();
 };
 
-void tst_JobsPage::showsTheStoredJobs()
+void tst_JobsPage::makesTheRepositoryAndBacksUp()
 {
+    NEEDS_RESTIC()
     const Window window;
-
-    QCOMPARE(window.page()->jobs()->rowCount(), 1);
-    QCOMPARE(window.page()->jobs()->job(0).name, QStringLiteral("Letters"));
-    QVERIFY(window.table()->button(0, JobModel::Run));
-    QVERIFY(window.table()->button(0, JobModel::Remove));
-}
-
-void tst_JobsPage::runsAJobFromItsButton()
-{
-    const Window window;
+    window.typePassword(0, QStringLiteral("secret"));
 
     window.click(0, JobModel::Run);
 
-    QTRY_VERIFY(window.shows(QStringLiteral("\"Letters\" is complete.")));
-    QCOMPARE(readFile(window.folders.copy("b/c")), QByteArray("second"));
-    QVERIFY(exists(window.folders.target("manifest.sha256")));
+    QCOMPARE(window.runButton(0)->text(), QStringLiteral("Cancel"));
+    QTRY_VERIFY_WITH_TIMEOUT(question(), 60000);
+    answer(QMessageBox::Yes);
+    QTRY_VERIFY_WITH_TIMEOUT(!window.run()->isRunning(), 60000);
+    QVERIFY(window.shows(QStringLiteral("2 new")));
+    QVERIFY(QFile::exists(window.path(QStringLiteral("repository/config"))));
+    QCOMPARE(window.runButton(0)->text(), QStringLiteral("Run"));
 }
 
-void tst_JobsPage::saysWhyAJobIsRefused()
+void tst_JobsPage::makesNoRepositoryWithoutConsent()
 {
+    NEEDS_RESTIC()
     const Window window;
-    window.page()->jobs()->item(0, JobModel::Source)->setText(QStringLiteral("/does/not/exist"));
+    window.typePassword(0, QStringLiteral("secret"));
+    window.click(0, JobModel::Run);
+    QTRY_VERIFY_WITH_TIMEOUT(question(), 60000);
+
+    answer(QMessageBox::No);
+
+    QTRY_VERIFY_WITH_TIMEOUT(!window.run()->isRunning(), 60000);
+    QVERIFY(!QFile::exists(window.repository()));
+    QVERIFY(window.shows(QStringLiteral("no repository")));
+}
+
+void tst_JobsPage::tellsAWrongPassword()
+{
+    NEEDS_RESTIC()
+    const Window window;
+    window.backUp(0);
+    window.typePassword(0, QStringLiteral("wrong"));
 
     window.click(0, JobModel::Run);
 
-    QVERIFY(!window.page()->engine()->isRunning());
-    QVERIFY(window.shows(QStringLiteral("/does/not/exist")));
+    QTRY_VERIFY_WITH_TIMEOUT(window.shows(QStringLiteral("not the repository's password")), 60000);
 }
 
-void tst_JobsPage::refusesASecondJobWhileOneRuns()
+void tst_JobsPage::asksForAMissingPassword()
 {
+    NEEDS_RESTIC()
     const Window window;
+    window.backUp(1);
     window.click(0, JobModel::Run);
+    QInputDialog *dialog = qobject_cast<QInputDialog *>(QApplication::activeModalWidget());
+    QVERIFY(dialog);
+    QLineEdit *field = dialog->findChild<QLineEdit *>();
+    QCOMPARE(field->echoMode(), QLineEdit::Password);
 
-    window.click(0, JobModel::Run);
-
-    QVERIFY(window.shows(QStringLiteral("running already")));
-    QTRY_VERIFY(!window.page()->engine()->isRunning());
-}
-
-void tst_JobsPage::keepsAnEditedNameInTheStore()
-{
-    const Window window;
-    QWidget *field = window.edit(0, JobModel::Name);
-    QVERIFY(field);
-    QTest::keyClicks(field, QStringLiteral("Mail"));
-
+    QTest::keyClicks(field, QStringLiteral("secret"));
     QTest::keyClick(field, Qt::Key_Return);
 
-    QTRY_COMPARE(window.stored().at(0).name, QStringLiteral("Mail"));
+    QTRY_VERIFY_WITH_TIMEOUT(window.shows(QStringLiteral("2 new")), 60000);
+    QCOMPARE(window.jobs()->job(0).password, QString());
 }
 
-void tst_JobsPage::offersTheJobsSourceAndAddedFolders()
+void tst_JobsPage::startsNothingWithoutAPassword()
 {
     const Window window;
-    const QString added = QStringLiteral("/somewhere/else");
-
-    window.page()->addSource(added);
-
-    QComboBox *box = qobject_cast<QComboBox *>(window.edit(0, JobModel::Source));
-    QVERIFY(box);
-    QVERIFY(box->findText(QDir::homePath()) >= 0);
-    QVERIFY(box->findText(added) >= 0);
-    QCOMPARE(box->currentText(), window.folders.job.sourceFolder);
-}
-
-void tst_JobsPage::offersUsedTargets()
-{
-    const Window window;
-    QWidget *editor = window.edit(0, JobModel::Target);
-    QVERIFY(editor);
-    const QString first = window.folders.job.targetFolder;
-    qobject_cast<QComboBox *>(editor)->setEditText(first + QStringLiteral("2"));
-
-    QTest::keyClick(editor, Qt::Key_Return);
-
-    QTRY_COMPARE(window.page()->jobs()->job(0).targetFolder, first + QStringLiteral("2"));
-    QComboBox *box = qobject_cast<QComboBox *>(window.edit(0, JobModel::Target));
-    QVERIFY(box);
-    QVERIFY(box->findText(first) >= 0);
-    QVERIFY(box->findText(first + QStringLiteral("2")) >= 0);
-}
-
-void tst_JobsPage::signsWithATypedPassphraseAndNeverStoresIt()
-{
-    const Window window;
-    QWidget *field = window.edit(0, JobModel::Passphrase);
-    QVERIFY(field);
-    QTest::keyClicks(field, QStringLiteral("swordfish"));
-    QTest::keyClick(field, Qt::Key_Return);
-    QTRY_COMPARE(window.page()->jobs()->job(0).passphrase, QStringLiteral("swordfish"));
-
     window.click(0, JobModel::Run);
 
-    QTRY_VERIFY(exists(window.folders.target("manifest.sha256.hmac")));
-    QTRY_VERIFY(!window.page()->engine()->isRunning());
-    window.window()->close();
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+
+    QVERIFY(!window.run()->isRunning());
+}
+
+void tst_JobsPage::neverStoresAPassword()
+{
+    const Window window;
+
+    window.typePassword(0, QStringLiteral("swordfish"));
+
+    window->close();
     QVERIFY(window.storedBytes().contains("Letters"));
     QVERIFY(!window.storedBytes().contains("swordfish"));
 }
 
-void tst_JobsPage::listsProblems()
+void tst_JobsPage::asksForAMissingRepository()
 {
     const Window window;
-    QCOMPARE(::mkfifo(window.folders.source("pipe").constData(), 0600), 0);
+    window.jobs()->item(0, JobModel::Repository)->setText(QString());
 
     window.click(0, JobModel::Run);
 
-    QTRY_VERIFY(window.shows(QStringLiteral("is complete.")));
-    QTreeWidget *problems = window.window()->findChild<QTreeWidget *>();
-    QVERIFY(problems->isVisible());
-    QCOMPARE(problems->topLevelItemCount(), 1);
-    QCOMPARE(problems->topLevelItem(0)->text(0), QStringLiteral("pipe"));
+    QVERIFY(!window.run()->isRunning());
+    QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("Letters")));
+    QVERIFY(window.table()->button(0, JobModel::Repository));
 }
 
-void tst_JobsPage::removesAJobAndLeavesItsCopies()
+void tst_JobsPage::cancelsFromTheButtonOfTheRow()
 {
+    NEEDS_RESTIC()
     const Window window;
-    window.click(0, JobModel::Run);
-    QTRY_VERIFY(window.shows(QStringLiteral("is complete.")));
+    window.startLongRun();
 
+    window.click(1, JobModel::Run);
+
+    QTRY_VERIFY_WITH_TIMEOUT(!window.run()->isRunning(), 60000);
+    QVERIFY(window.shows(QStringLiteral("Cancelled.")));
+    QCOMPARE(window.runButton(1)->text(), QStringLiteral("Run"));
+}
+
+void tst_JobsPage::keepsTheHeadlineWhenAnotherRunIsRefused()
+{
+    NEEDS_RESTIC()
+    const Window window;
+    window.startLongRun();
+
+    window.click(0, JobModel::Run);
+
+    QVERIFY(window.shows(QStringLiteral("Backing up \"Numbers\"")));
+    QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("\"Letters\"")));
+    QCOMPARE(window.runButton(0)->text(), QStringLiteral("Run"));
+}
+
+void tst_JobsPage::marksTheRunningRowInARebuiltTable()
+{
+    NEEDS_RESTIC()
+    const Window window;
+    window.startLongRun();
+
+    window.table()->setModel(nullptr);
+    window.table()->setModel(window.jobs());
+
+    QTRY_COMPARE_WITH_TIMEOUT(window.runButton(1)->text(), QStringLiteral("Cancel"), 60000);
+    QCOMPARE(window.runButton(0)->text(), QStringLiteral("Run"));
+}
+
+void tst_JobsPage::marksTheRunningRowWhenAnotherIsRemoved()
+{
+    NEEDS_RESTIC()
+    const Window window;
+    window.startLongRun();
     window.click(0, JobModel::Remove);
 
-    QCOMPARE(window.page()->jobs()->rowCount(), 0);
-    QTRY_COMPARE(window.stored().size(), 0);
-    QVERIFY(exists(window.folders.copy("a")));
+    answer(QMessageBox::Yes);
+
+    QCOMPARE(window.jobs()->rowCount(), 1);
+    QCOMPARE(window.runButton(0)->text(), QStringLiteral("Cancel"));
+    window.click(0, JobModel::Run);
+    QTRY_COMPARE_WITH_TIMEOUT(window.runButton(0)->text(), QStringLiteral("Run"), 60000);
+}
+
+void tst_JobsPage::keepsAJobThatRuns()
+{
+    NEEDS_RESTIC()
+    const Window window;
+    window.startLongRun();
+
+    window.click(1, JobModel::Remove);
+
+    QVERIFY(!question());
+    QCOMPARE(window.jobs()->rowCount(), 2);
+    QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("Cancel it")));
+}
+
+void tst_JobsPage::removesAJobIfTheUserAgrees_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<int>("jobs");
+
+    QTest::newRow("yes") << int(QMessageBox::Yes) << 1;
+    QTest::newRow("no") << int(QMessageBox::No) << 2;
+}
+
+void tst_JobsPage::removesAJobIfTheUserAgrees()
+{
+    QFETCH(int, button);
+    const Window window;
+    window.click(0, JobModel::Remove);
+    QVERIFY(question());
+
+    answer(QMessageBox::StandardButton(button));
+
+    QTEST(window.jobs()->rowCount(), "jobs");
 }
 
 void tst_JobsPage::addsAJobAndOpensItsName()
 {
     const Window window;
+    QPushButton *add = nullptr;
+    for (QPushButton *button : window->findChildren<QPushButton *>()) {
+        add = button->text() == QLatin1String("&New backup") ? button : add;
+    }
 
-    window.page()->addJob();
+    QTest::mouseClick(add, Qt::LeftButton);
 
-    QCOMPARE(window.page()->jobs()->rowCount(), 2);
-    QVERIFY(qobject_cast<QLineEdit *>(window.table()->button(1, JobModel::Name)));
-    QTRY_VERIFY(window.table()->button(1, JobModel::Run)->isVisible());
-    QTRY_COMPARE(window.stored().size(), 2);
+    QCOMPARE(window.jobs()->rowCount(), 3);
+    QVERIFY(qobject_cast<QLineEdit *>(window.table()->button(2, JobModel::Name)));
+    QTRY_VERIFY(window.storedBytes().contains("New backup"));
 }
 
-void tst_JobsPage::cancelsARunBeforeItCloses()
+void tst_JobsPage::saysHowToBegin()
 {
     const Window window;
-    window.folders.write("large", QByteArray(50 * 1024 * 1024, 'x'));
-    bool isAsked = false;
-    bool stayedOpen = false;
-    connect(window.page()->engine(), &BackupEngine::progressChanged, this,
-            [&](const BackupProgress &progress) {
-                if (!isAsked && progress.phase == BackupPhase::Copying) {
-                    isAsked = true;
-                    window.window()->close();
-                    stayedOpen = window.window()->isVisible();
-                }
-            });
+    QVERIFY(!window.shows(QStringLiteral("nothing to back up")));
 
-    window.click(0, JobModel::Run);
+    window.jobs()->removeRow(0);
+    window.jobs()->removeRow(0);
 
-    QTRY_VERIFY(isAsked && !window.window()->isVisible());
-    QVERIFY(stayedOpen);
-    QVERIFY(!window.page()->engine()->isRunning());
-    QVERIFY(window.shows(QStringLiteral("was cancelled")));
+    QVERIFY(window.shows(QStringLiteral("nothing to back up")));
+}
+
+void tst_JobsPage::takesAChoiceAtOnce()
+{
+    const Window window;
+    QComboBox *box = qobject_cast<QComboBox *>(window.edit(0, JobModel::Source));
+    QVERIFY(box);
+    const QString home = QDir::homePath();
+    QVERIFY(box->findText(home) >= 0);
+
+    while (box->currentText() != home) {
+        QTest::keyClick(box, Qt::Key_Up);
+    }
+
+    QTRY_COMPARE(window.jobs()->job(0).source, home);
+}
+
+void tst_JobsPage::choosesASourceInADialog()
+{
+    const Window window;
+    const QString folder = window.path(QStringLiteral("numbers"));
+    QComboBox *box = qobject_cast<QComboBox *>(window.edit(0, JobModel::Source));
+    QVERIFY(box);
+    chooseInNextDialog(folder);
+
+    QTest::keyClick(box, Qt::Key_End);
+
+    QTRY_COMPARE(window.jobs()->job(0).source, folder);
+}
+
+void tst_JobsPage::offersRepositoriesThatWereTyped()
+{
+    const Window window;
+    const QString typed = QStringLiteral("sftp:host:/backups");
+    QComboBox *editor = qobject_cast<QComboBox *>(window.edit(0, JobModel::Repository));
+    QVERIFY(editor);
+    editor->lineEdit()->selectAll();
+    QTest::keyClicks(editor, typed);
+
+    QTest::keyClick(editor, Qt::Key_Return);
+
+    QTRY_COMPARE(window.jobs()->job(0).repository, typed);
+    QComboBox *other = qobject_cast<QComboBox *>(window.edit(1, JobModel::Repository));
+    QVERIFY(other);
+    QVERIFY(other->findText(typed) >= 0);
+    QVERIFY(other->findText(window.repository()) >= 0);
+}
+
+void tst_JobsPage::saysWhatACellIs_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("password") << int(JobModel::Password) << "Password: asked for";
+    QTest::newRow("check") << int(JobModel::Verify) << "Verify: no";
+    QTest::newRow("run") << int(JobModel::Run) << "Run Letters";
+    QTest::newRow("remove") << int(JobModel::Remove) << "Remove Letters";
+}
+
+void tst_JobsPage::saysWhatACellIs()
+{
+    QFETCH(int, column);
+    const Window window;
+
+    const QModelIndex cell = window.jobs()->index(0, column);
+
+    QTEST(cell.data(Qt::AccessibleTextRole).toString(), "text");
+    if (QWidget *button = window.table()->button(0, column)) {
+        QTEST(button->accessibleName(), "text");
+    }
+}
+
+void tst_JobsPage::keepsAllColumnsInSight_data()
+{
+    QTest::addColumn<int>("width");
+
+    QTest::newRow("usual") << 960;
+    QTest::newRow("small screen") << 800;
+    QTest::newRow("1366 pixels, doubled") << 683;
+}
+
+void tst_JobsPage::keepsAllColumnsInSight()
+{
+    QFETCH(int, width);
+    const Window window;
+    window.jobs()->item(0, JobModel::Source)->setText(QString(300, QLatin1Char('x')));
+
+    window->resize(width, 380);
+
+    QTRY_COMPARE(window->width(), width);
+    const QWidget *remove = window.table()->button(0, JobModel::Remove);
+    QTRY_VERIFY(remove->geometry().right() <= window.table()->viewport()->width());
+    QVERIFY(window.table()->columnWidth(JobModel::Source) > 50);
+    QVERIFY(window.table()->columnWidth(JobModel::Repository) > 50);
 }
 
 int main(int argc, char **argv)
 {
-    if (qgetenv("QT_QPA_PLATFORM").isEmpty()) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    QApplication application(argc, argv);
     tst_JobsPage test;
-    return QTest::qExec(&test, argc, argv);
+    return runTests(&test, argc, argv);
 }
 
 #include "tst_jobspage.moc"

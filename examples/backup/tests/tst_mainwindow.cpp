@@ -1,233 +1,237 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "BackupTestTools.h"
-#include "FileListModel.h"
-#include "FilesPage.h"
-#include "JobModel.h"
-#include "JobsPage.h"
-#include "MainWindow.h"
+#include "Translators.h"
+#include "WindowTools.h"
 
-#include <EditableTableView.h>
 #include <FileListTableView.h>
-#include <SpinBox.h>
 
 #include <QApplication>
-#include <QPushButton>
+#include <QFile>
+#include <QFileInfo>
+#include <QLabel>
+#include <QStandardPaths>
 #include <QStatusBar>
-#include <QTabWidget>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QtTest>
-
-#include <memory>
-
-namespace {
-
-/// The program's window with two jobs of one file each.
-class Window
-{
-public:
-    Window()
-    {
-        first.job.name = QStringLiteral("First");
-        first.write("one", "1");
-        second.job.name = QStringLiteral("Second");
-        second.write("two", "22");
-        const JobStore store(m_scratch.filePath(QStringLiteral("jobs.ini")));
-        store.save({first.job, second.job});
-        m_window.reset(new MainWindow(store));
-        m_window->show();
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    }
-
-    MainWindow *operator->() const
-    {
-        return m_window.get();
-    }
-
-    QStringList listedNames() const
-    {
-        const FileListModel *model = m_window->filesPage()->model();
-        QStringList names;
-        for (int row = 0; row < model->rowCount(); ++row) {
-            names.append(model->index(row, 0).data().toString());
-        }
-        return names;
-    }
-
-    void showFiles() const
-    {
-        m_window->pages()->setCurrentWidget(m_window->filesPage());
-    }
-
-    BackupFolders first;
-    BackupFolders second;
-
-private:
-    QTemporaryDir m_scratch;
-    std::unique_ptr<MainWindow> m_window;
-};
-
-} // namespace
 
 class tst_MainWindow : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void listsTheFirstJobsFiles();
-    void listsTheFilesOfTheSelectedJob();
-    void listsAnewWhenTheJobsSourceIsEdited();
-    void followsABackupInTheList();
-    void hintsAtThePageSizeWhenItGetsTheFocus();
-    void hintsAtTheBandwidthLimitWhenItGetsTheFocus();
-    void takesThePageSizeFromItsBox();
+    void closesAtOnceWhenNothingRuns();
+    void goesOnRunningWhenClosingIsDeclined();
+    void cancelsTheRunAndClosesIfTheUserAgrees();
+    void storesAnEditedName();
+    void hintsAtTheBandwidthLimit();
+    void showsTheThroughput();
+    void fitsASmallScreen_data();
+    void fitsASmallScreen();
     void reachesEverythingByKeyboard();
-    void speaksGerman();
+    void saysThatResticIsMissing();
+    void speaksALanguage_data();
+    void speaksALanguage();
+    void isTranslatedCompletely_data();
+    void isTranslatedCompletely();
 };
 
-void tst_MainWindow::listsTheFirstJobsFiles()
+void tst_MainWindow::closesAtOnceWhenNothingRuns()
 {
     const Window window;
 
-    window.showFiles();
+    window->close();
 
-    QTRY_COMPARE(window.listedNames(), QStringList(QStringLiteral("one")));
+    QVERIFY(!window->isVisible());
 }
 
-void tst_MainWindow::listsTheFilesOfTheSelectedJob()
+void tst_MainWindow::goesOnRunningWhenClosingIsDeclined()
 {
+    NEEDS_RESTIC()
     const Window window;
-    window.showFiles();
-    QTRY_COMPARE(window.listedNames(), QStringList(QStringLiteral("one")));
-    JobsPage *jobs = window->jobsPage();
+    window.startLongRun();
+    window->close();
+    QVERIFY(question());
+    QSignalSpy finished(window.run(), &BackupRun::finished);
 
-    jobs->table()->setCurrentIndex(jobs->jobs()->index(1, JobModel::Name));
+    answer(QMessageBox::No);
 
-    QTRY_COMPARE(window.listedNames(), QStringList(QStringLiteral("two")));
+    QVERIFY(!finished.wait(3000));
+    QVERIFY(window->isVisible());
+    QVERIFY(window.run()->isRunning());
+    QVERIFY(window.shows(QStringLiteral("Backing up \"Numbers\"")));
 }
 
-void tst_MainWindow::listsAnewWhenTheJobsSourceIsEdited()
+void tst_MainWindow::cancelsTheRunAndClosesIfTheUserAgrees()
 {
+    NEEDS_RESTIC()
     const Window window;
-    window.showFiles();
-    QTRY_COMPARE(window.listedNames(), QStringList(QStringLiteral("one")));
+    window.startLongRun();
+    window->close();
+    QVERIFY(question());
 
-    window->jobsPage()->jobs()->item(0, JobModel::Source)->setText(window.second.job.sourceFolder);
+    answer(QMessageBox::Yes);
 
-    QTRY_COMPARE(window.listedNames(), QStringList(QStringLiteral("two")));
+    QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), 60000);
+    QVERIFY(!window.run()->isRunning());
 }
 
-void tst_MainWindow::followsABackupInTheList()
+void tst_MainWindow::storesAnEditedName()
 {
     const Window window;
-    window.showFiles();
-    QTRY_COMPARE(window.listedNames(), QStringList(QStringLiteral("one")));
-    const QModelIndex state = window->filesPage()->model()->index(0, FileListModel::State);
-    QCOMPARE(state.data().toString(), QStringLiteral("new"));
+    QWidget *field = window.edit(0, JobModel::Name);
+    QTest::keyClicks(field, QStringLiteral("Mail"));
 
-    window->jobsPage()->runJob(0);
+    QTest::keyClick(field, Qt::Key_Return);
 
-    QTRY_COMPARE(state.data().toString(), QStringLiteral("saved"));
-    QTRY_VERIFY(!window->jobsPage()->engine()->isRunning());
+    QTRY_VERIFY(window.storedBytes().contains("Mail"));
 }
 
-void tst_MainWindow::hintsAtThePageSizeWhenItGetsTheFocus()
+void tst_MainWindow::hintsAtTheBandwidthLimit()
 {
     const Window window;
-    window.showFiles();
-    window->filesPage()->list()->setFocus();
+    window.table()->setFocus();
 
-    QTest::mouseClick(window->filesPage()->pageSize(), Qt::LeftButton);
+    QTest::mouseClick(window.spinBox(), Qt::LeftButton);
 
-    QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("10000")));
+    QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("next run")));
 }
 
-void tst_MainWindow::hintsAtTheBandwidthLimitWhenItGetsTheFocus()
+void tst_MainWindow::showsTheThroughput()
 {
+#ifdef TESSALINE_HAS_PLOT
+    NEEDS_RESTIC()
     const Window window;
-    window->jobsPage()->table()->setFocus();
+    window.showPage(2);
+    QLabel *now = window.find<QTabWidget>()->widget(2)->findChild<QLabel *>();
 
-    QTest::mouseClick(window->jobsPage()->bandwidthLimit(), Qt::LeftButton);
+    window.run()->backUp(window.jobs()->job(1));
 
-    QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("no limit")));
+    QTRY_COMPARE_WITH_TIMEOUT(now->text(), QStringLiteral("In the last second: 0 B"), 60000);
+#else
+    QSKIP("Built without the chart.");
+#endif
 }
 
-void tst_MainWindow::takesThePageSizeFromItsBox()
+void tst_MainWindow::fitsASmallScreen_data()
 {
+    QTest::addColumn<QLocale>("locale");
+
+    QTest::newRow("English") << QLocale(QLocale::English);
+    QTest::newRow("German") << QLocale(QLocale::German);
+    QTest::newRow("Spanish") << QLocale(QLocale::Spanish);
+}
+
+void tst_MainWindow::fitsASmallScreen()
+{
+    QFETCH(QLocale, locale);
+    const Translators translators(QFileInfo(QStringLiteral(BACKUP_PROGRAM)).path(), locale);
     const Window window;
-    for (int number = 0; number < 25; ++number) {
-        window.first.write("f" + QByteArray::number(number), "x");
-    }
 
-    window->filesPage()->pageSize()->setValue(10);
-    window.showFiles();
+    const QSize smallest = window->minimumSizeHint();
 
-    QTRY_COMPARE(window->filesPage()->model()->rowCount(), 11); // with the row of the button
+    // 1366 x 768 pixels, doubled, without a panel and the window's frame.
+    QVERIFY2(smallest.width() <= 675, qPrintable(QString::number(smallest.width())));
+    QVERIFY2(smallest.height() <= 330, qPrintable(QString::number(smallest.height())));
 }
 
 void tst_MainWindow::reachesEverythingByKeyboard()
 {
     const Window window;
-    JobsPage *jobs = window->jobsPage();
-    jobs->table()->setFocus();
+    window.table()->setFocus();
     QStringList reached;
 
     for (int i = 0; i < 20; ++i) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         const QWidget *widget = QApplication::focusWidget();
-        reached.append(widget->accessibleDescription());
+        reached.append(widget->accessibleName());
         reached.append(QString::fromLatin1(widget->metaObject()->className()));
     }
 
-    QVERIFY(reached.contains(QStringLiteral("EditableTableViewButton column5")));
-    QVERIFY(reached.contains(QStringLiteral("EditableTableViewButton column6")));
+    QVERIFY(reached.contains(QStringLiteral("Run Letters")));
+    QVERIFY(reached.contains(QStringLiteral("Remove Numbers")));
     QVERIFY(reached.contains(QStringLiteral("SpinBox")));
     QVERIFY(reached.contains(QStringLiteral("QTabBar")));
 }
 
-void tst_MainWindow::speaksGerman()
+void tst_MainWindow::saysThatResticIsMissing()
 {
-    QTranslator translator;
-    QTranslator libraryTranslator;
-    if (!translator.load(QStringLiteral("backup_de"), QStringLiteral(TRANSLATIONS_FOLDER))
-        || !libraryTranslator.load(QStringLiteral("tessaline_de"),
-                                   QStringLiteral(TESSALINE_TRANSLATIONS))) {
+    const Window window;
+    window.typePassword(0, QStringLiteral("secret"));
+    window.sandbox.useProgram(QStringLiteral("/no/such/program"));
+
+    window.click(0, JobModel::Run);
+
+    QTRY_VERIFY(window.shows(QStringLiteral("Install the package \"restic\"")));
+}
+
+void tst_MainWindow::speaksALanguage_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("run");
+    QTest::addColumn<QString>("next");
+    QTest::addColumn<QString>("yes");
+
+    QTest::newRow("German") << QLocale(QLocale::German) << "Starten"
+                            << "Weiter"
+                            << "&Ja";
+    QTest::newRow("Spanish") << QLocale(QLocale::Spanish) << "Iniciar"
+                             << "Siguiente" << QString::fromUtf8("&Sí");
+}
+
+// The program's own texts, the library's and Qt's.
+void tst_MainWindow::speaksALanguage()
+{
+    QFETCH(QLocale, locale);
+    const Translators translators(QFileInfo(QStringLiteral(BACKUP_PROGRAM)).path(), locale);
+    if (QCoreApplication::translate("EditableTableView", "Run") == QLatin1String("Run")) {
         QSKIP("Built without translations.");
     }
-    QCoreApplication::installTranslator(&translator);
-    QCoreApplication::installTranslator(&libraryTranslator);
     const Window window;
-    window.showFiles();
-    QTRY_COMPARE(window.listedNames(), QStringList(QStringLiteral("one")));
-    EditableTableView *table = window->jobsPage()->table();
+    window.click(0, JobModel::Remove);
 
-    const QPushButton *run = qobject_cast<QPushButton *>(table->button(0, JobModel::Run));
-    FileListModel *files = window->filesPage()->model();
-    files->setPageSize(1);
-    window.first.write("more", "1");
-    window.first.write("most", "1");
-    files->setJob(window.first.job);
-    QTRY_COMPARE(files->rowCount(), 2);
-    const QPushButton *next
-        = qobject_cast<QPushButton *>(window->filesPage()->list()->indexWidget(files->index(1, 0)));
+    QTEST(window.runButton(0)->text(), "run");
+    QTEST(FileListTableView::tr("Common::Next"), "next");
+    QVERIFY(question());
+    QTEST(question()->button(QMessageBox::Yes)->text(), "yes");
+}
 
-    QCoreApplication::removeTranslator(&translator);
-    QCoreApplication::removeTranslator(&libraryTranslator);
-    QCOMPARE(run->text(), QStringLiteral("Starten"));
-    QVERIFY(next);
-    QTRY_COMPARE(next->text(), QStringLiteral("Weiter >>"));
-    QCOMPARE(window->windowTitle(), QStringLiteral("Sicherung"));
+void tst_MainWindow::isTranslatedCompletely_data()
+{
+    QTest::addColumn<QString>("file");
+
+    QTest::newRow("German") << "backup_de.ts";
+    QTest::newRow("Spanish") << "backup_es.ts";
+}
+
+void tst_MainWindow::isTranslatedCompletely()
+{
+    QFETCH(QString, file);
+    const QString lupdate
+        = QStandardPaths::findExecutable(QStringLiteral("lupdate"), {QStringLiteral(QT_PROGRAMS)});
+    if (lupdate.isEmpty()) {
+        QSKIP("There is no lupdate.");
+    }
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(file);
+    QFile::copy(QStringLiteral(BACKUP_SOURCES "/translations/") + file, copy);
+
+    QCOMPARE(
+        QProcess::execute(lupdate,
+                          {QStringLiteral("-silent"), QStringLiteral("-no-obsolete"),
+                           QStringLiteral(BACKUP_SOURCES "/restic"),
+                           QStringLiteral(BACKUP_SOURCES "/console"),
+                           QStringLiteral(BACKUP_SOURCES "/window"), QStringLiteral("-ts"), copy}),
+        0);
+
+    const QByteArray texts = readFile(QFile::encodeName(copy));
+    QVERIFY(texts.contains("<translation>"));
+    const int unfinished = int(texts.indexOf("type=\"unfinished\""));
+    QVERIFY2(unfinished < 0, texts.mid(qMax(0, unfinished - 300), 400).constData());
 }
 
 int main(int argc, char **argv)
 {
-    if (qgetenv("QT_QPA_PLATFORM").isEmpty()) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    QApplication application(argc, argv);
     tst_MainWindow test;
-    return QTest::qExec(&test, argc, argv);
+    return runTests(&test, argc, argv);
 }
 
 #include "tst_mainwindow.moc"

@@ -2,10 +2,30 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>BackupEngine</name>
+    <name>BackupProgress</name>
     <message>
-        <source>A backup is running already.</source>
-        <translation>Es läuft schon eine Sicherung.</translation>
+        <source>Backing up: %1 of %2 files, %3 of %4  %5</source>
+        <translation>Sichert: %1 von %2 Dateien, %3 von %4  %5</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Prüft</translation>
+    </message>
+    <message>
+        <source>Verifying: %1 %</source>
+        <translation>Prüft: %1 %</translation>
+    </message>
+    <message>
+        <source>Restoring</source>
+        <translation>Stellt wieder her</translation>
+    </message>
+    <message>
+        <source>Restoring: %1 %</source>
+        <translation>Stellt wieder her: %1 %</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>Bereitet vor</translation>
     </message>
 </context>
 <context>
@@ -18,32 +38,78 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>Mirrors a folder and checks the copy.</source>
-        <translation>Spiegelt einen Ordner und prüft die Kopie.</translation>
+        <source>The password is the first line of the standard input; on a terminal it is asked for.
+Exit status:
+  0  done
+  1  failed
+  2  the arguments make no sense, or something is missing: restic, source, repository, password
+  3  backed up, but for some files that could not be read
+  4  verifying found damage
+  5  wrong password
+  6  the repository is locked
+</source>
+        <translation>Das Passwort ist die erste Zeile der Standardeingabe; auf einem Terminal wird danach gefragt.
+Endstatus:
+  0  fertig
+  1  gescheitert
+  2  die Argumente ergeben keinen Sinn, oder es fehlt etwas: restic, Quelle, Repository, Passwort
+  3  gesichert bis auf einige Dateien, die nicht gelesen werden konnten
+  4  beim Prüfen wurden Schäden gefunden
+  5  falsches Passwort
+  6  das Repository ist gesperrt
+</translation>
     </message>
     <message>
-        <source>Copy the content of DIR.</source>
-        <translation>Den Inhalt von DIR kopieren.</translation>
+        <source>Backups, by restic.</source>
+        <translation>Sicherungen mit restic.</translation>
     </message>
     <message>
-        <source>Copy into DIR.</source>
-        <translation>Nach DIR kopieren.</translation>
+        <source>Back up FOLDER.</source>
+        <translation>Den Ordner FOLDER sichern.</translation>
     </message>
     <message>
-        <source>Copy at once, without a window.</source>
-        <translation>Sofort und ohne Fenster kopieren.</translation>
+        <source>A folder, or an address such as sftp:host:/path.</source>
+        <translation>Ein Ordner oder eine Adresse wie sftp:host:/pfad.</translation>
     </message>
     <message>
-        <source>Read the copy back; after copying if with --run.</source>
-        <translation>Die Kopie zurücklesen; mit --run nach dem Kopieren.</translation>
+        <source>Back up the source into the target.</source>
+        <translation>Die Quelle ins Ziel sichern.</translation>
     </message>
     <message>
-        <source>Read the passphrase for the manifest's signature from the first line of the standard input.</source>
-        <translation>Das Passwort für die Unterschrift des Manifests aus der ersten Zeile der Standardeingabe lesen.</translation>
+        <source>Read all of the target back; after the backup if with --run.</source>
+        <translation>Das ganze Ziel zurücklesen; mit --run nach der Sicherung.</translation>
     </message>
     <message>
-        <source>Write pictures of the window into DIR.</source>
-        <translation>Bilder des Fensters in DIR ablegen.</translation>
+        <source>Restore SNAPSHOT, or the &quot;latest&quot;, from the target into the folder named last, which must be empty or new.</source>
+        <translation>SNAPSHOT oder den letzten („latest“) aus dem Ziel in den zuletzt genannten Ordner wiederherstellen, der leer oder neu sein muss.</translation>
+    </message>
+    <message>
+        <source>List the snapshots in the target.</source>
+        <translation>Die Snapshots im Ziel auflisten.</translation>
+    </message>
+    <message>
+        <source>Make the repository if it is not there.</source>
+        <translation>Das Repository anlegen, wenn es fehlt.</translation>
+    </message>
+    <message>
+        <source>Remove a lock that a dead program left.</source>
+        <translation>Eine Sperre entfernen, die ein beendetes Programm hinterlassen hat.</translation>
+    </message>
+    <message>
+        <source>Write RATE KB a second at most.</source>
+        <translation>Höchstens RATE KB in der Sekunde schreiben.</translation>
+    </message>
+    <message>
+        <source>Say nothing unless something is wrong.</source>
+        <translation>Nichts melden, außer wenn etwas nicht stimmt.</translation>
+    </message>
+    <message>
+        <source>Write pictures of the window into FOLDER.</source>
+        <translation>Bilder des Fensters im Ordner FOLDER ablegen.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Die Version zeigen.</translation>
     </message>
     <message>
         <source>Show this help.</source>
@@ -54,12 +120,32 @@
         <translation>Unerwartetes Argument: %1</translation>
     </message>
     <message>
+        <source>--restore needs a snapshot and a folder.</source>
+        <translation>Zu --restore gehören ein Snapshot und ein Ordner.</translation>
+    </message>
+    <message>
         <source>--run needs --source.</source>
         <translation>Zu --run gehört --source.</translation>
     </message>
     <message>
-        <source>--run and --verify need --target.</source>
-        <translation>Zu --run und --verify gehört --target.</translation>
+        <source>This needs --target.</source>
+        <translation>Dazu gehört --target.</translation>
+    </message>
+    <message>
+        <source>What is to be done? Say --run, --verify, --restore or --snapshots.</source>
+        <translation>Was soll geschehen? Möglich sind --run, --verify, --restore und --snapshots.</translation>
+    </message>
+    <message>
+        <source>--limit-upload needs a number above 0.</source>
+        <translation>Zu --limit-upload gehört eine Zahl über 0.</translation>
+    </message>
+    <message>
+        <source>With --init it is made.</source>
+        <translation>Mit --init wird es angelegt.</translation>
+    </message>
+    <message>
+        <source>With --unlock a lock that a dead program left is removed.</source>
+        <translation>Mit --unlock wird eine Sperre entfernt, die ein beendetes Programm hinterlassen hat.</translation>
     </message>
 </context>
 <context>
@@ -69,66 +155,28 @@
         <translation>Starten</translation>
     </message>
     <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
         <source>Remove</source>
         <translation>Entfernen</translation>
     </message>
 </context>
 <context>
-    <name>EntryMirror</name>
-    <message>
-        <source>Skipped: it is a pipe, a socket or a device.</source>
-        <translation>Übergangen: Es ist eine Pipe, ein Socket oder ein Gerät.</translation>
-    </message>
-    <message>
-        <source>The folder's modification time and permissions were not kept: %1</source>
-        <translation>Änderungszeit und Rechte des Ordners blieben nicht erhalten: %1</translation>
-    </message>
-    <message>
-        <source>The folder cannot be created: %1</source>
-        <translation>Der Ordner kann nicht angelegt werden: %1</translation>
-    </message>
-    <message>
-        <source>The copy cannot be put in its place: %1</source>
-        <translation>Die Kopie kann nicht an ihren Platz gebracht werden: %1</translation>
-    </message>
-    <message>
-        <source>It kept changing while it was being read.</source>
-        <translation>Sie änderte sich beim Lesen immer wieder.</translation>
-    </message>
-    <message>
-        <source>Its permissions were not kept: %1</source>
-        <translation>Ihre Rechte blieben nicht erhalten: %1</translation>
-    </message>
-    <message>
-        <source>The symbolic link cannot be read: %1</source>
-        <translation>Die symbolische Verknüpfung kann nicht gelesen werden: %1</translation>
-    </message>
-    <message>
-        <source>The symbolic link cannot be created: %1</source>
-        <translation>Die symbolische Verknüpfung kann nicht angelegt werden: %1</translation>
-    </message>
-</context>
-<context>
-    <name>FileCopier</name>
-    <message>
-        <source>The copy cannot be created: %1</source>
-        <translation>Die Kopie kann nicht angelegt werden: %1</translation>
-    </message>
-    <message>
-        <source>The copy cannot be written: %1</source>
-        <translation>Die Kopie kann nicht geschrieben werden: %1</translation>
-    </message>
-    <message>
-        <source>The copy cannot be completed: %1</source>
-        <translation>Die Kopie kann nicht abgeschlossen werden: %1</translation>
-    </message>
-    <message>
-        <source>It was copied, but not its modification time and permissions: %1</source>
-        <translation>Sie wurde kopiert, aber nicht ihre Änderungszeit und ihre Rechte: %1</translation>
-    </message>
-</context>
-<context>
     <name>FileListModel</name>
+    <message>
+        <source>folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>link</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
     <message>
         <source>Name</source>
         <translation>Name</translation>
@@ -146,132 +194,67 @@
         <translation>Art</translation>
     </message>
     <message>
-        <source>State</source>
-        <translation>Stand</translation>
-    </message>
-    <message>
-        <source>new</source>
-        <translation>neu</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>geändert</translation>
-    </message>
-    <message>
-        <source>saved</source>
-        <translation>gesichert</translation>
-    </message>
-</context>
-<context>
-    <name>FileListing</name>
-    <message>
-        <source>link</source>
-        <translation>Verweis</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>Datei</translation>
-    </message>
-</context>
-<context>
-    <name>FileReader</name>
-    <message>
-        <source>It is no longer a regular file.</source>
-        <translation>Es ist keine gewöhnliche Datei mehr.</translation>
-    </message>
-    <message>
-        <source>It cannot be read: %1</source>
-        <translation>Lesen nicht möglich: %1</translation>
-    </message>
-    <message>
-        <source>It vanished before it was read: %1</source>
-        <translation>Verschwunden, bevor gelesen wurde: %1</translation>
-    </message>
-    <message>
-        <source>It vanished while it was being read: %1</source>
-        <translation>Beim Lesen verschwunden: %1</translation>
+        <source>Rights</source>
+        <translation>Rechte</translation>
     </message>
 </context>
 <context>
     <name>FilesPage</name>
     <message>
-        <source>Files in a &amp;page:</source>
-        <translation>Dateien je &amp;Seite:</translation>
+        <source>&amp;Restore...</source>
+        <translation>&amp;Wiederherstellen...</translation>
     </message>
     <message>
         <source>Files</source>
         <translation>Dateien</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>How many files "Next" adds to the list, from %1 to %2</source>
+        <source>How many files &quot;Next&quot; adds to the list, from %1 to %2</source>
         <translation>Wie viele Dateien „Weiter“ der Liste hinzufügt, von %1 bis %2</translation>
     </message>
-</context>
-<context>
-    <name>FolderCheck</name>
     <message>
-        <source>No target folder was given.</source>
-        <translation>Es ist kein Zielordner angegeben.</translation>
+        <source>&amp;Show snapshots</source>
+        <translation>S&amp;napshots zeigen</translation>
     </message>
     <message>
-        <source>The target folder %1 does not exist or cannot be read.</source>
-        <translation>Den Zielordner %1 gibt es nicht, oder er ist nicht lesbar.</translation>
+        <source>Snapshots</source>
+        <translation>Snapshots</translation>
     </message>
     <message>
-        <source>No source folder was given.</source>
-        <translation>Es ist kein Quellordner angegeben.</translation>
+        <source>Files in a &amp;page:</source>
+        <translation>Dateien je S&amp;eite:</translation>
     </message>
     <message>
-        <source>The source folder %1 does not exist.</source>
-        <translation>Den Quellordner %1 gibt es nicht.</translation>
+        <source>Password of the repository %1:</source>
+        <translation>Passwort des Repositorys %1:</translation>
     </message>
     <message>
-        <source>The source %1 is not a folder.</source>
-        <translation>Die Quelle %1 ist kein Ordner.</translation>
+        <source>Empty folder to restore into</source>
+        <translation>Leerer Ordner für das Wiederhergestellte</translation>
     </message>
     <message>
-        <source>The source folder %1 cannot be read.</source>
-        <translation>Der Quellordner %1 ist nicht lesbar.</translation>
+        <source>Restoring &quot;%1&quot; into %2</source>
+        <translation>Stellt „%1“ in %2 wieder her</translation>
     </message>
     <message>
-        <source>The name of the target folder %1 is not valid text.</source>
-        <translation>Der Name des Zielordners %1 ist kein gültiger Text.</translation>
+        <source>Nothing was restored: there is one run at a time.</source>
+        <translation>Nichts wurde wiederhergestellt: Es läuft immer nur eines.</translation>
     </message>
     <message>
-        <source>The target %1 is not a folder.</source>
-        <translation>Das Ziel %1 ist kein Ordner.</translation>
+        <source>There is no snapshot yet.</source>
+        <translation>Es gibt noch keinen Snapshot.</translation>
     </message>
     <message>
-        <source>The source and the target are the same folder.</source>
-        <translation>Quelle und Ziel sind derselbe Ordner.</translation>
+        <source>The backup has no repository yet.</source>
+        <translation>Die Sicherung hat noch kein Repository.</translation>
     </message>
     <message>
-        <source>The target folder %1 is inside the source folder.</source>
-        <translation>Der Zielordner %1 liegt im Quellordner.</translation>
+        <source>&quot;Show snapshots&quot; asks for the password of the repository.</source>
+        <translation>„Snapshots zeigen“ fragt nach dem Passwort des Repositorys.</translation>
     </message>
     <message>
-        <source>The source folder %1 is inside the target's own folders.</source>
-        <translation>Der Quellordner %1 liegt in den eigenen Ordnern des Ziels.</translation>
-    </message>
-    <message>
-        <source>%1 is in the way: it is not a folder.</source>
-        <translation>%1 ist im Weg: Es ist kein Ordner.</translation>
-    </message>
-    <message>
-        <source>%1 holds files that no backup has put there. Choose another target.</source>
-        <translation>In %1 liegen Dateien, die keine Sicherung dort abgelegt hat. Wählen Sie ein anderes Ziel.</translation>
-    </message>
-    <message>
-        <source>The target folder %1 cannot be created.</source>
-        <translation>Der Zielordner %1 kann nicht angelegt werden.</translation>
-    </message>
-    <message>
-        <source>The target folder %1 is not writable.</source>
-        <translation>In den Zielordner %1 kann nicht geschrieben werden.</translation>
+        <source>Looking for snapshots...</source>
+        <translation>Sucht Snapshots ...</translation>
     </message>
 </context>
 <context>
@@ -285,11 +268,11 @@
         <translation>Quelle</translation>
     </message>
     <message>
-        <source>Target</source>
-        <translation>Ziel</translation>
+        <source>Repository</source>
+        <translation>Repository</translation>
     </message>
     <message>
-        <source>Passphrase</source>
+        <source>Password</source>
         <translation>Passwort</translation>
     </message>
     <message>
@@ -297,43 +280,103 @@
         <translation>Prüfung</translation>
     </message>
     <message>
-        <source>Run this backup</source>
-        <translation>Diese Sicherung starten</translation>
+        <source>Choose a folder...</source>
+        <translation>Ordner wählen ...</translation>
     </message>
     <message>
-        <source>Remove this backup from the list</source>
-        <translation>Diese Sicherung aus der Liste entfernen</translation>
+        <source>Password: asked for</source>
+        <translation>Passwort: wird erfragt</translation>
+    </message>
+    <message>
+        <source>Password: typed</source>
+        <translation>Passwort: eingegeben</translation>
+    </message>
+    <message>
+        <source>Verify: no</source>
+        <translation>Prüfen: nein</translation>
+    </message>
+    <message>
+        <source>Verify: yes</source>
+        <translation>Prüfen: ja</translation>
+    </message>
+    <message>
+        <source>Cancel %1</source>
+        <translation>%1 abbrechen</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>%1 starten</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
     </message>
 </context>
 <context>
     <name>JobsPage</name>
     <message>
-        <source>New backup</source>
-        <translation>Neue Sicherung</translation>
-    </message>
-    <message>
-        <source>Removed "%1" from the list; its copies stay where they are</source>
-        <translation>„%1“ ist aus der Liste entfernt; die Kopien bleiben, wo sie sind</translation>
-    </message>
-    <message>
-        <source>How much is copied in a second at most; 0 is no limit</source>
-        <translation>Wie viel je Sekunde höchstens kopiert wird; 0 ist keine Grenze</translation>
-    </message>
-    <message>
         <source>Backups</source>
         <translation>Sicherungen</translation>
     </message>
     <message>
-        <source> MiB/s</source>
-        <translation> MiB/s</translation>
+        <source> KB/s</source>
+        <translation> KB/s</translation>
     </message>
     <message>
         <source>none</source>
         <translation>keine</translation>
     </message>
     <message>
+        <source>How much the next run writes to the repository in a second at most</source>
+        <translation>Wie viel der nächste Lauf in einer Sekunde höchstens ins Repository schreibt</translation>
+    </message>
+    <message>
+        <source>There is nothing to back up yet.
+
+&quot;New backup&quot; adds a row. Choose the folder to back up and the repository that is to keep the backups: another folder, or any address that restic takes. Then press &quot;Run&quot;.</source>
+        <translation>Es gibt noch nichts zu sichern.
+
+„Neue Sicherung“ fügt eine Zeile hinzu. Wählen Sie den Ordner, der gesichert werden soll, und das Repository, das die Sicherungen aufbewahrt: einen anderen Ordner oder jede Adresse, die restic kennt. Dann drücken Sie „Starten“.</translation>
+    </message>
+    <message>
+        <source>&amp;New backup</source>
+        <translation>&amp;Neue Sicherung</translation>
+    </message>
+    <message>
         <source>Bandwidth &amp;limit:</source>
         <translation>Band&amp;breite höchstens:</translation>
+    </message>
+    <message>
+        <source>New backup</source>
+        <translation>Neue Sicherung</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not started: there is one run at a time.</source>
+        <translation>„%1“ wurde nicht gestartet: Es läuft immer nur eines.</translation>
+    </message>
+    <message>
+        <source>Say first where the backups of &quot;%1&quot; are to be kept.</source>
+        <translation>Zuerst muss gesagt sein, wo die Sicherungen von „%1“ aufbewahrt werden.</translation>
+    </message>
+    <message>
+        <source>Password of the repository %1:</source>
+        <translation>Passwort des Repositorys %1:</translation>
+    </message>
+    <message>
+        <source>Backing up &quot;%1&quot;</source>
+        <translation>Sichert „%1“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is running. Cancel it before you remove it.</source>
+        <translation>„%1“ läuft. Vor dem Entfernen muss es abgebrochen werden.</translation>
+    </message>
+    <message>
+        <source>Remove &quot;%1&quot; from the list? Its backups stay in the repository.</source>
+        <translation>„%1“ aus der Liste entfernen? Die Sicherungen bleiben im Repository.</translation>
+    </message>
+    <message>
+        <source>Folder to back up</source>
+        <translation>Zu sichernder Ordner</translation>
     </message>
 </context>
 <context>
@@ -341,14 +384,6 @@
     <message>
         <source>Backup</source>
         <translation>Sicherung</translation>
-    </message>
-    <message>
-        <source>Folder to back up</source>
-        <translation>Zu sichernder Ordner</translation>
-    </message>
-    <message>
-        <source>The list of backups could not be saved.</source>
-        <translation>Die Liste der Sicherungen konnte nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>&amp;Backups</source>
@@ -363,69 +398,104 @@
         <translation>D&amp;urchsatz</translation>
     </message>
     <message>
-        <source>Backups</source>
-        <translation>Sicherungen</translation>
+        <source>A run is under way. Cancel it and close the window?</source>
+        <translation>Es läuft noch etwas. Abbrechen und das Fenster schließen?</translation>
     </message>
     <message>
-        <source>&amp;New backup</source>
-        <translation>&amp;Neue Sicherung</translation>
-    </message>
-    <message>
-        <source>Add &amp;folder to choose from...</source>
-        <translation>&amp;Ordner zur Auswahl hinzufügen...</translation>
-    </message>
-    <message>
-        <source>&amp;Menu</source>
-        <translation>&amp;Menü</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
+        <source>The list of backups could not be saved.</source>
+        <translation>Die Liste der Sicherungen konnte nicht gespeichert werden.</translation>
     </message>
 </context>
 <context>
-    <name>ManifestWriter</name>
+    <name>Outcome</name>
     <message>
-        <source>The manifest cannot be written: %1</source>
-        <translation>Das Manifest kann nicht geschrieben werden: %1</translation>
+        <source>Restored below %1.</source>
+        <translation>Wiederhergestellt unter %1.</translation>
+    </message>
+    <message>
+        <source>Snapshot %1: %2 new, %3 changed, %4 unchanged files; %5 read, %6 added.</source>
+        <translation>Snapshot %1: %2 neue, %3 geänderte, %4 unveränderte Dateien; %5 gelesen, %6 hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>All of the repository was read back: no errors.</source>
+        <translation>Das ganze Repository wurde zurückgelesen: keine Fehler.</translation>
+    </message>
+    <message>
+        <source>Some files could not be read; all others are backed up.</source>
+        <translation>Einige Dateien konnten nicht gelesen werden; alle anderen sind gesichert.</translation>
+    </message>
+    <message>
+        <source>Cancelled. What was stored so far is used by the next run.</source>
+        <translation>Abgebrochen. Was schon gespeichert ist, verwendet der nächste Lauf.</translation>
+    </message>
+    <message>
+        <source>There is no restic. Install the package &quot;restic&quot;, or say where the program is: restic=/path/of/restic at the top of %1.</source>
+        <translation>Es gibt hier kein restic. Installieren Sie das Paket „restic“, oder sagen Sie, wo das Programm ist: restic=/pfad/zu/restic am Anfang von %1.</translation>
+    </message>
+    <message>
+        <source>This restic is too old: %1. Install version %2 or newer of the package &quot;restic&quot;.</source>
+        <translation>Dieses restic ist zu alt: %1. Installieren Sie die Version %2 oder eine neuere des Pakets „restic“.</translation>
+    </message>
+    <message>
+        <source>A repository needs a password. Nothing was done.</source>
+        <translation>Ein Repository braucht ein Passwort. Nichts wurde getan.</translation>
+    </message>
+    <message>
+        <source>This is not the repository&apos;s password. Nothing was changed; type it again.</source>
+        <translation>Das ist nicht das Passwort des Repositorys. Nichts wurde geändert; geben Sie es noch einmal ein.</translation>
+    </message>
+    <message>
+        <source>There is no repository at this address. Is its disk connected?</source>
+        <translation>Unter dieser Adresse ist kein Repository. Ist der Datenträger angeschlossen?</translation>
+    </message>
+    <message>
+        <source>The repository is locked. If no other program is using it, remove the lock that one left behind; else run this again later.</source>
+        <translation>Das Repository ist gesperrt. Wenn kein anderes Programm es benutzt, entfernen Sie die Sperre, die eines hinterlassen hat; sonst starten Sie dies später noch einmal.</translation>
+    </message>
+    <message>
+        <source>There is no space left for the repository. Make room, then run this again: earlier snapshots are whole.</source>
+        <translation>Für das Repository ist kein Platz mehr. Schaffen Sie Platz, und starten Sie dies noch einmal: Frühere Snapshots sind heil.</translation>
+    </message>
+    <message>
+        <source>The source is not there. Is its disk connected?</source>
+        <translation>Die Quelle ist nicht da. Ist der Datenträger angeschlossen?</translation>
+    </message>
+    <message>
+        <source>The folder to restore into is not empty, so nothing was restored. Choose an empty or a new one.</source>
+        <translation>Der Ordner für das Wiederhergestellte ist nicht leer, also wurde nichts wiederhergestellt. Wählen Sie einen leeren oder einen neuen.</translation>
+    </message>
+    <message>
+        <source>The repository is damaged. Save what its disk still gives, and see &quot;restic repair&quot; in restic&apos;s manual.</source>
+        <translation>Das Repository ist beschädigt. Retten Sie, was der Datenträger noch hergibt, und lesen Sie im Handbuch von restic über „restic repair“.</translation>
+    </message>
+    <message>
+        <source>restic ended before it was done. Earlier snapshots are whole; run this again.</source>
+        <translation>restic endete, bevor es fertig war. Frühere Snapshots sind heil; starten Sie dies noch einmal.</translation>
+    </message>
+    <message>
+        <source>restic failed: %1</source>
+        <translation>restic ist gescheitert: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) of restic&apos;s made no sense.</source>
+        <translation>
+            <numerusform>%n Zeile von restic ergab keinen Sinn.</numerusform>
+            <numerusform>%n Zeilen von restic ergaben keinen Sinn.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>MirrorTask</name>
+    <name>ResticRun</name>
     <message>
-        <source>Not everything in it can be removed: %1</source>
-        <translation>Nicht alles darin kann gelöscht werden: %1</translation>
-    </message>
-    <message>
-        <source>The folder cannot be created: %1</source>
-        <translation>Der Ordner kann nicht angelegt werden: %1</translation>
-    </message>
-    <message>
-        <source>It is no longer in the source, but its copy cannot be removed: %1</source>
-        <translation>In der Quelle gibt es sie nicht mehr, aber die Kopie kann nicht gelöscht werden: %1</translation>
-    </message>
-    <message>
-        <source>Its old copy is not in the manifest.</source>
-        <translation>Die alte Kopie steht nicht im Manifest.</translation>
-    </message>
-    <message>
-        <source>The folder cannot be removed: %1</source>
-        <translation>Der Ordner kann nicht gelöscht werden: %1</translation>
-    </message>
-    <message>
-        <source>It vanished before it was read: %1</source>
-        <translation>Verschwunden, bevor gelesen wurde: %1</translation>
-    </message>
-    <message>
-        <source>It cannot be read: %1</source>
-        <translation>Lesen nicht möglich: %1</translation>
+        <source>cannot be read</source>
+        <translation>kann nicht gelesen werden</translation>
     </message>
 </context>
 <context>
-    <name>ProgressPanel</name>
+    <name>RunPanel</name>
     <message>
-        <source>No backup is running.</source>
-        <translation>Es läuft keine Sicherung.</translation>
+        <source>Nothing is running.</source>
+        <translation>Es läuft nichts.</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -436,71 +506,27 @@
         <translation>Fortschritt</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Datei</translation>
+        <source>What restic said</source>
+        <translation>Was restic sagte</translation>
     </message>
     <message>
-        <source>Problem</source>
-        <translation>Problem</translation>
+        <source>There is no repository there yet. Create one? Whoever loses its password loses the backups in it.</source>
+        <translation>Dort ist noch kein Repository. Eines anlegen? Wer sein Passwort verliert, verliert die Sicherungen darin.</translation>
     </message>
     <message>
-        <source>Problems</source>
-        <translation>Probleme</translation>
-    </message>
-    <message>
-        <source>Backing up "%1"</source>
-        <translation>„%1“ wird gesichert</translation>
-    </message>
-    <message>
-        <source>"%1" was cancelled.</source>
-        <translation>„%1“ wurde abgebrochen.</translation>
-    </message>
-    <message>
-        <source>"%1" is complete.</source>
-        <translation>„%1“ ist vollständig.</translation>
-    </message>
-    <message>
-        <source>"%1" has problems.</source>
-        <translation>Bei „%1“ gab es Probleme.</translation>
+        <source>A program that is no longer there has left the repository locked. Remove the lock?</source>
+        <translation>Ein Programm, das nicht mehr läuft, hat das Repository gesperrt zurückgelassen. Die Sperre entfernen?</translation>
     </message>
 </context>
 <context>
-    <name>ReportText</name>
+    <name>Terminal</name>
     <message>
-        <source>Preparing</source>
-        <translation>Vorbereiten</translation>
+        <source>Password of the repository: </source>
+        <translation>Passwort des Repositorys: </translation>
     </message>
     <message>
-        <source>Scanning</source>
-        <translation>Durchsehen</translation>
-    </message>
-    <message>
-        <source>Copying</source>
-        <translation>Kopieren</translation>
-    </message>
-    <message>
-        <source>Removing</source>
-        <translation>Aufräumen</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Abschließen</translation>
-    </message>
-    <message>
-        <source>Verifying</source>
-        <translation>Prüfen</translation>
-    </message>
-    <message>
-        <source>%1: %2 of %3 files, %4 of %5  %6</source>
-        <translation>%1: %2 von %3 Dateien, %4 von %5  %6</translation>
-    </message>
-    <message>
-        <source>%1%2 new, %3 changed, %4 unchanged, %5 removed, %6 verified, %7 failed; %8 copied; %9 problems</source>
-        <translation>%1%2 neu, %3 geändert, %4 unverändert, %5 gelöscht, %6 geprüft, %7 misslungen; %8 kopiert; %9 Probleme</translation>
-    </message>
-    <message>
-        <source>Cancelled: </source>
-        <translation>Abgebrochen: </translation>
+        <source>Password of the repository (can be seen): </source>
+        <translation>Passwort des Repositorys (ist zu sehen): </translation>
     </message>
 </context>
 <context>
@@ -510,51 +536,16 @@
         <translation>Zeit</translation>
     </message>
     <message>
-        <source>Copied in a second</source>
-        <translation>Je Sekunde kopiert</translation>
+        <source>Done in a second</source>
+        <translation>In einer Sekunde</translation>
     </message>
     <message>
-        <source>Bytes copied in each second</source>
-        <translation>In jeder Sekunde kopierte Bytes</translation>
-    </message>
-</context>
-<context>
-    <name>VerifyTask</name>
-    <message>
-        <source>There is no manifest to compare with: %1</source>
-        <translation>Es gibt kein Manifest zum Vergleichen: %1</translation>
+        <source>Bytes done in each second</source>
+        <translation>Bytes in jeder Sekunde</translation>
     </message>
     <message>
-        <source>It cannot be read: %1</source>
-        <translation>Lesen nicht möglich: %1</translation>
-    </message>
-    <message>
-        <source>Lines that are no checksums: %1, the first is line %2.</source>
-        <translation>Zeilen, die keine Prüfsummen sind: %1, die erste ist Zeile %2.</translation>
-    </message>
-    <message>
-        <source>The manifest is not signed.</source>
-        <translation>Das Manifest ist nicht unterschrieben.</translation>
-    </message>
-    <message>
-        <source>The signature is not that of the manifest under this passphrase.</source>
-        <translation>Die Unterschrift gehört nicht zu diesem Manifest und diesem Passwort.</translation>
-    </message>
-    <message>
-        <source>It is not in the manifest.</source>
-        <translation>Steht nicht im Manifest.</translation>
-    </message>
-    <message>
-        <source>It changed while it was being read.</source>
-        <translation>Beim Lesen geändert.</translation>
-    </message>
-    <message>
-        <source>Its content is not what the manifest says.</source>
-        <translation>Der Inhalt ist nicht der im Manifest.</translation>
-    </message>
-    <message>
-        <source>It is in the manifest, but missing.</source>
-        <translation>Steht im Manifest, fehlt aber.</translation>
+        <source>In the last second: %1</source>
+        <translation>In der letzten Sekunde: %1</translation>
     </message>
 </context>
 </TS>

@@ -1,14 +1,28 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "FileListModel.h"
 
+#include "SizeText.h"
+
+#include <QFileInfo>
 #include <QLocale>
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 
-bool isBefore(const ListedFile &left, const ListedFile &right, int column)
+QString typeText(const SnapshotFile &file)
+{
+    const QString suffix = QFileInfo(file.path).suffix();
+    if (file.type == QLatin1String("dir")) {
+        return FileListModel::tr("folder");
+    }
+    if (file.type == QLatin1String("symlink")) {
+        return FileListModel::tr("link");
+    }
+    return suffix.isEmpty() ? FileListModel::tr("file") : suffix;
+}
+
+bool isBefore(const SnapshotFile &left, const SnapshotFile &right, int column)
 {
     switch (column) {
     case FileListModel::Modified:
@@ -16,11 +30,11 @@ bool isBefore(const ListedFile &left, const ListedFile &right, int column)
     case FileListModel::Size:
         return left.size < right.size;
     case FileListModel::Type:
-        return left.type < right.type;
-    case FileListModel::State:
-        return left.state < right.state;
+        return typeText(left) < typeText(right);
+    case FileListModel::Rights:
+        return left.permissions < right.permissions;
     default:
-        return left.name < right.name;
+        return left.path < right.path;
     }
 }
 
@@ -33,25 +47,59 @@ QString shortTime(const QDateTime &time)
         time, isRecent ? QStringLiteral("d MMM hh:mm") : QStringLiteral("d MMM yyyy"));
 }
 
+// "rwxr-xr-x" as "755": the column is narrow.
+QString octal(const QString &permissions)
+{
+    QString digits;
+    for (int first = 0; first + 2 < permissions.size(); first += 3) {
+        int digit = 0;
+        for (int bit = first; bit < first + 3; ++bit) {
+            digit = digit * 2 + (permissions.at(bit) == QLatin1Char('-') ? 0 : 1);
+        }
+        digits += QString::number(digit);
+    }
+    return digits;
+}
+
+QString cellText(const SnapshotFile &file, int column)
+{
+    switch (column) {
+    case FileListModel::Modified:
+        return shortTime(file.modified);
+    case FileListModel::Size:
+        return file.type == QLatin1String("file") ? sizeText(file.size) : QString();
+    case FileListModel::Type:
+        return typeText(file);
+    case FileListModel::Rights:
+        return octal(file.permissions.right(9)); // before them stands the type
+    default:
+        return file.path;
+    }
+}
+
 } // namespace
 
 FileListModel::FileListModel(QObject *parent)
     : QStandardItemModel(0, ColumnCount, parent)
 {
-    setHorizontalHeaderLabels({tr("Name"), tr("Modified"), tr("Size"), tr("Type"), tr("State")});
-    m_timer.setSingleShot(true);
-    connect(&m_timer, &QTimer::timeout, this, &FileListModel::readOn);
-    // Connected before any view is, so that the vector agrees with the rows when a view looks.
+    setHorizontalHeaderLabels({tr("Name"), tr("Modified"), tr("Size"), tr("Type"), tr("Rights")});
+    connect(&m_listing, &SnapshotListing::pageRead, this, &FileListModel::takePage);
+    connect(&m_listing, &SnapshotListing::failed, this, &FileListModel::takeFailure);
+    // Connected before any view is, so that the list agrees with the rows when a view looks.
     connect(this, &FileListModel::rowsInserted, this, &FileListModel::takeInsertedRows);
     connect(this, &FileListModel::rowsRemoved, this, &FileListModel::dropRemovedRows);
 }
 
-void FileListModel::setJob(const BackupJob &job)
+void FileListModel::setSnapshot(const BackupJob &job, const QString &id)
 {
-    m_listing.start(job);
-    m_page.clear();
-    // A page that is on its way comes from the new source: the view does not ask again for it.
+    // The listing forgets a page that was asked for; the list waits for it and does not ask again.
+    const bool isAwaited = m_isRequested;
+    m_hasSnapshot = !id.isEmpty();
+    m_listing.open(job, id);
     emit dataChanged();
+    if (isAwaited) {
+        LoadItems();
+    }
 }
 
 void FileListModel::setPageSize(int count)
@@ -59,20 +107,46 @@ void FileListModel::setPageSize(int count)
     m_pageSize = qMax(1, count);
 }
 
+void FileListModel::LoadItems()
+{
+    m_isRequested = true;
+    if (m_hasSnapshot) {
+        m_listing.requestPage(m_pageSize);
+    } else {
+        takePage({}, true);
+    }
+}
+
+void FileListModel::takePage(const QList<SnapshotFile> &files, bool completed)
+{
+    m_isRequested = false;
+    if (!files.isEmpty()) {
+        m_page = files;
+        insertRows(int(m_files.size()), int(files.size()));
+    }
+    emit pageLoaded(files.size(), completed);
+}
+
+void FileListModel::takeFailure(const Outcome &outcome)
+{
+    takePage({}, true);
+    emit failed(outcome);
+}
+
 QVariant FileListModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || index.parent().isValid() || index.row() >= m_files.size()) {
         return QStandardItemModel::data(index, role);
     }
-    const ListedFile &file = m_files.at(index.row());
+    const SnapshotFile &file = m_files.at(index.row());
     if (role == Qt::DisplayRole) {
-        return textOf(file, index.column());
-    }
-    if (role == Qt::ToolTipRole && index.column() == Name) {
-        return file.name;
+        return cellText(file, index.column());
     }
     if (role == Qt::ToolTipRole && index.column() == Modified) {
         return QLocale().toString(file.modified, QLocale::LongFormat);
+    }
+    if (role == Qt::ToolTipRole) {
+        return cellText(file, index.column());
     }
     if (role == Qt::TextAlignmentRole && index.column() == Size) {
         return int(Qt::AlignRight | Qt::AlignVCenter);
@@ -80,64 +154,16 @@ QVariant FileListModel::data(const QModelIndex &index, int role) const
     return QVariant();
 }
 
+// The paging row is not among the files and so stays where it is, behind them.
 void FileListModel::sort(int column, Qt::SortOrder order)
 {
-    QVector<int> sorted(m_files.size());
-    std::iota(sorted.begin(), sorted.end(), 0);
-    std::stable_sort(sorted.begin(), sorted.end(), [this, column, order](int left, int right) {
-        const bool ascends = order == Qt::AscendingOrder;
-        return isBefore(m_files.at(ascends ? left : right), m_files.at(ascends ? right : left),
-                        column);
-    });
+    const bool ascends = order == Qt::AscendingOrder;
     emit layoutAboutToBeChanged();
-    applyOrder(sorted);
+    std::stable_sort(m_files.begin(), m_files.end(),
+                     [column, ascends](const SnapshotFile &left, const SnapshotFile &right) {
+                         return isBefore(ascends ? left : right, ascends ? right : left, column);
+                     });
     emit layoutChanged();
-}
-
-void FileListModel::LoadItems()
-{
-    if (!m_isRequested) {
-        m_isRequested = true;
-        m_timer.start(0);
-    }
-}
-
-void FileListModel::noteFile(const QString &path, FileResult result)
-{
-    if (result == FileResult::Failed) {
-        return;
-    }
-    if (m_rows.isEmpty()) {
-        for (int row = 0; row < m_files.size(); ++row) {
-            m_rows.insert(m_files.at(row).name, row);
-        }
-    }
-    const int row = m_rows.value(path, -1);
-    if (row >= 0 && m_files.at(row).state != ListedFile::Saved) {
-        m_files[row].state = ListedFile::Saved;
-        const QModelIndex cell = index(row, State);
-        emit QStandardItemModel::dataChanged(cell, cell);
-    }
-}
-
-void FileListModel::readOn()
-{
-    const bool hasMore = m_listing.read(&m_page, m_pageSize);
-    if (hasMore && m_page.size() < m_pageSize) {
-        m_timer.start(0);
-    } else {
-        deliverPage(!hasMore);
-    }
-}
-
-void FileListModel::deliverPage(bool completed)
-{
-    const int count = int(m_page.size());
-    if (count > 0) {
-        insertRows(int(m_files.size()), count);
-    }
-    m_isRequested = false;
-    emit pageLoaded(count, completed);
 }
 
 void FileListModel::takeInsertedRows(const QModelIndex &parent, int first, int last)
@@ -147,55 +173,13 @@ void FileListModel::takeInsertedRows(const QModelIndex &parent, int first, int l
     if (isPage) {
         m_files += m_page;
         m_page.clear();
-        m_rows.clear();
     }
 }
 
 void FileListModel::dropRemovedRows(const QModelIndex &parent, int first, int last)
 {
-    const int count = qMin(last + 1, int(m_files.size())) - first;
-    if (!parent.isValid() && count > 0) {
-        m_files.remove(first, count);
-        m_rows.clear();
-    }
-}
-
-// The paging row is not among the files and so stays where it is, behind them.
-void FileListModel::applyOrder(const QVector<int> &order)
-{
-    QVector<ListedFile> files;
-    QVector<int> rowAfter(order.size());
-    files.reserve(order.size());
-    for (int row : order) {
-        rowAfter[row] = int(files.size());
-        files.append(m_files.at(row));
-    }
-    const QModelIndexList before = persistentIndexList();
-    QModelIndexList after = before;
-    for (QModelIndex &index : after) {
-        if (index.row() < rowAfter.size()) {
-            index = this->index(rowAfter.at(index.row()), index.column());
-        }
-    }
-    changePersistentIndexList(before, after);
-    m_files = files;
-    m_rows.clear();
-}
-
-QVariant FileListModel::textOf(const ListedFile &file, int column) const
-{
-    switch (column) {
-    case Name:
-        return file.name;
-    case Modified:
-        return shortTime(file.modified);
-    case Size:
-        return QLocale().formattedDataSize(file.size, 1, QLocale::DataSizeTraditionalFormat);
-    case Type:
-        return file.type;
-    default:
-        return file.state == ListedFile::New    ? tr("new")
-            : file.state == ListedFile::Changed ? tr("changed")
-                                                : tr("saved");
+    if (!parent.isValid() && first < m_files.size()) {
+        const int end = qMin(last + 1, int(m_files.size()));
+        m_files.erase(m_files.begin() + first, m_files.begin() + end);
     }
 }

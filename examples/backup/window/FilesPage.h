@@ -2,62 +2,72 @@
 #ifndef FILESPAGE_H
 #define FILESPAGE_H
 
-#include "BackupJob.h"
+#include "BackupRun.h"
+#include "ResticRun.h"
+#include "Snapshot.h"
 
 #include <QWidget>
 
-class BackupEngine;
+#include <memory>
+
 class FileListModel;
 class FileListTableView;
+class QComboBox;
 class QLabel;
+class QPushButton;
 class SpinBox;
 
-/// The files of the selected job's source, and which of them are saved.
+/// The snapshots of a job, the files in the chosen one, and a way to get them back.
 class FilesPage : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The engine is not owned; a backup that it runs is followed in the list.
-    explicit FilesPage(BackupEngine *engine, QWidget *parent = nullptr);
+    /// The run is not owned; the page restores with it, and looks again after a backup.
+    explicit FilesPage(BackupRun *run, QWidget *parent = nullptr);
 
-    /// Lists the job's source from the start. Nothing is read before the page is shown.
+    /// Shows another job's snapshots. Nothing is read before the page is shown.
     void setJob(const BackupJob &job);
 
-    FileListTableView *list() const
-    {
-        return m_list;
-    }
-
-    FileListModel *model() const
-    {
-        return m_model;
-    }
-
-    SpinBox *pageSize() const
-    {
-        return m_pageSize;
-    }
+public slots:
+    /// Reads the list of snapshots again; asks for the password if the job has none.
+    void reload();
+    /// Asks for a folder and restores the chosen snapshot into it.
+    void restore();
 
 signals:
-    /// A hint for the status bar.
+    /// A run has begun: what it does, for a headline.
+    void started(const QString &headline);
+    /// A sentence for the status bar.
     void message(const QString &text);
 
 protected:
     void showEvent(QShowEvent *event) override;
 
 private slots:
-    void showPageSizeHint();
+    void listFiles();
+    void showOutcome(const Outcome &outcome);
+    void followRun(const Outcome &outcome);
 
 private:
-    void listJob();
+    void setUpList();
+    void setUpPageSize();
+    void setUpLayout();
+    void loadIfStale();
+    void load();
+    void clear(const QString &hint);
+    void offer(const QList<Snapshot> &snapshots);
 
+    BackupRun *m_run;
     BackupJob m_job;
     bool m_isStale = true;
-    QLabel *m_headline;
-    SpinBox *m_pageSize;
+    std::unique_ptr<ResticRun> m_reading; ///< Of the list of snapshots.
+    QComboBox *m_snapshots;
+    QPushButton *m_restore;
     FileListTableView *m_list;
     FileListModel *m_model;
+    QLabel *m_hint;
+    SpinBox *m_pageSize;
 };
 
 #endif

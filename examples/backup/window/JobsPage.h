@@ -2,42 +2,23 @@
 #ifndef JOBSPAGE_H
 #define JOBSPAGE_H
 
-#include "BackupEngine.h"
+#include "BackupRun.h"
 
 #include <QWidget>
 
 class EditableTableView;
 class JobModel;
-class ProgressPanel;
-class QStringListModel;
+class QLabel;
 class SpinBox;
 
-/// The table of jobs and, below it, how the running one comes along.
+/// The table of jobs and what a run of them takes.
 class JobsPage : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit JobsPage(const QList<BackupJob> &jobs, QWidget *parent = nullptr);
-
-    BackupEngine *engine() const
-    {
-        return m_engine;
-    }
-    EditableTableView *table() const
-    {
-        return m_table;
-    }
-    JobModel *jobs() const
-    {
-        return m_jobs;
-    }
-
-    /// Of the copying, in MiB a second; 0 is none.
-    SpinBox *bandwidthLimit() const
-    {
-        return m_bandwidthLimit;
-    }
+    /// Neither is owned. The page starts the run.
+    JobsPage(JobModel *jobs, BackupRun *run, QWidget *parent = nullptr);
 
     /// The job in the current row; the first one if there is no current row.
     BackupJob currentJob() const;
@@ -45,38 +26,44 @@ public:
 public slots:
     /// Adds a job from the home folder and opens the editor of its name.
     void addJob();
-    /// Offers one more folder as a source.
-    void addSource(const QString &folder);
+    /// Runs the job, or cancels it if it is the one that runs.
     void runJob(int row);
+    /// Asks first. A job that runs stays.
     void removeJob(int row);
 
 signals:
-    /// The jobs are no longer what they were.
-    void changed();
     /// Another job is the current one, or it has been edited.
     void currentJobChanged(const BackupJob &job);
+    /// A run has begun: what it does, for a headline.
+    void started(const QString &headline);
     /// A sentence for the status bar.
     void message(const QString &text);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private slots:
     void actOnClick(QWidget *button, int row, int column);
-    void collectTargets();
     void announceCurrentJob();
-    void limitBandwidth(int mebibytes);
-    void showBandwidthHint();
+    void shareWidth();
+    void dressButtons();
+    void chooseSource(int row);
+    void endRun();
 
 private:
     void setUpTable();
+    void setUpWidths();
     void setUpBandwidthLimit();
     void setUpLayout();
+    void editCell(int row, int column);
+    void askPassword(int row);
+    void start(int row, const BackupJob &job);
 
+    BackupRun *m_run;
     JobModel *m_jobs;
-    QStringListModel *m_sources;
-    QStringListModel *m_targets;
     EditableTableView *m_table;
-    BackupEngine *m_engine;
-    ProgressPanel *m_progress;
-    SpinBox *m_bandwidthLimit;
+    QLabel *m_hint; ///< How to begin, where there is no job.
+    SpinBox *m_bandwidthLimit; ///< Of the next run.
 };
 
 #endif

@@ -7,9 +7,8 @@
 #include <QMainWindow>
 #include <QTimer>
 
-class FilesPage;
-class JobsPage;
-class QTabWidget;
+class BackupRun;
+class JobModel;
 
 /// The program's window. Keeps the jobs in the store as they are edited.
 class MainWindow : public QMainWindow
@@ -19,38 +18,21 @@ class MainWindow : public QMainWindow
 public:
     explicit MainWindow(const JobStore &store, QWidget *parent = nullptr);
 
-    JobsPage *jobsPage() const
-    {
-        return m_jobsPage;
-    }
-
-    FilesPage *filesPage() const
-    {
-        return m_filesPage;
-    }
-
-    QTabWidget *pages() const
-    {
-        return m_pages;
-    }
-
 protected:
-    /// Saves what is not saved yet. A running backup is cancelled in good order first.
+    /// Saves what is not saved yet. Asks before a run is cancelled for it.
     void closeEvent(QCloseEvent *event) override;
 
 private slots:
-    void chooseSource();
     void save();
-    void showHint(const QString &text);
+    void showMessage(const QString &text);
 
 private:
     void setUpPages();
-    void setUpActions();
+    void saveWhenChanged();
 
     JobStore m_store;
-    JobsPage *m_jobsPage;
-    FilesPage *m_filesPage;
-    QTabWidget *m_pages;
+    JobModel *m_jobs;
+    BackupRun *m_run;
     QTimer m_saveSoon; ///< Gathers the changes of one edit into one save.
 };
 

@@ -1,227 +1,241 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "Pictures.h"
 
-#include "BackupEngine.h"
-#include "CommandLine.h"
+#include "BackupRun.h"
 #include "FileListModel.h"
-#include "FilesPage.h"
 #include "JobModel.h"
-#include "JobsPage.h"
 #include "MainWindow.h"
+#include "Translators.h"
 
 #include <EditableTableView.h>
-#include <FileListTableView.h>
 #include <SpinBox.h>
 
 #include <QApplication>
-#include <QColor>
 #include <QDir>
-#include <QEventLoop>
+#include <QElapsedTimer>
 #include <QFile>
-#include <QFileInfo>
-#include <QFont>
 #include <QLineEdit>
-#include <QPalette>
+#include <QLocale>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QRandomGenerator>
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <functional>
 #include <memory>
 
 namespace {
 
-const int sampleFiles = 12000;
-
-QPalette darkPalette()
-{
-    QPalette palette(QColor(53, 53, 53));
-    palette.setColor(QPalette::Base, QColor(35, 35, 35));
-    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    return palette;
-}
+const QLatin1String password("correct horse");
+const QSize usualSize(960, 560);
 
 void writeSampleTree(const QString &folder)
 {
-    for (int number = 0; number < sampleFiles; ++number) {
-        const QString name = QStringLiteral("letters/%1/letter-%2.txt")
-                                 .arg(number / 1000)
-                                 .arg(number, 5, 10, QLatin1Char('0'));
-        const QString path = QDir(folder).filePath(name);
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
+    for (int number = 0; number < 1200; ++number) {
+        const QString below = QStringLiteral("%1/letters %2").arg(folder).arg(number / 100);
+        QDir().mkpath(below);
+        QFile file(QStringLiteral("%1/letter %2.odt").arg(below).arg(number, 4, 10, QChar('0')));
+        QVector<quint32> noise(number * 4); // which cannot be made smaller
+        QRandomGenerator::global()->fillRange(noise.data(), noise.size());
         if (file.open(QIODevice::WriteOnly)) {
-            file.write(QByteArray(1000 + number % 5000, 'x'));
+            file.write(reinterpret_cast<const char *>(noise.constData()), noise.size() * 4);
         }
     }
 }
 
-BackupJob job(const QString &name, const QString &source, const QString &target, bool verifies)
+BackupJob job(const QString &name, const QString &source, const QString &repository)
 {
     BackupJob job;
     job.name = name;
-    job.sourceFolder = source;
-    job.targetFolder = target;
-    job.verifiesAfterRun = verifies;
+    job.source = source;
+    job.repository = repository;
+    job.verify = true;
     return job;
 }
 
 /// The window in front of the camera, with jobs of its own in a scratch folder.
-class Studio : public QObject
+class Studio
 {
-    Q_OBJECT
-
 public:
-    explicit Studio(const CommandLine &commandLine)
-        : m_pictures(commandLine.picturesFolder)
+    Studio(const QString &pictures, Translators *translators)
+        : m_pictures(pictures)
+        , m_translators(translators)
         , m_store(m_scratch.filePath(QStringLiteral("jobs.ini")))
     {
-        QString source = commandLine.sourceFolder;
-        QString target = commandLine.targetFolder;
-        if (source.isEmpty() || target.isEmpty()) {
-            source = m_scratch.filePath(QStringLiteral("Documents"));
-            target = m_scratch.filePath(QStringLiteral("backup"));
-            writeSampleTree(source);
-        }
-        m_store.save({job(QStringLiteral("Documents"), source, target, true),
+        const QString source = m_scratch.filePath(QStringLiteral("Documents"));
+        writeSampleTree(source);
+        m_store.save({job(QStringLiteral("Documents"), source,
+                          m_scratch.filePath(QStringLiteral("repository"))),
                       job(QStringLiteral("Pictures"), QStringLiteral("/home/anna/Pictures"),
-                          QStringLiteral("/media/disk/pictures"), true),
-                      job(QStringLiteral("Mail"), QStringLiteral("/home/anna/Mail"),
-                          QStringLiteral("/media/disk/mail"), false)});
+                          QStringLiteral("sftp:backup.example.org:/srv/anna"))});
     }
 
     int run()
     {
-        m_window.reset(new MainWindow(m_store));
-        m_window->show();
-        m_window->activateWindow();
-        take(QStringLiteral("jobs"));
-        typePassphrase();
-        backUp();
-        takeAllPages(QStringLiteral("finished"));
-        QApplication::setPalette(darkPalette());
-        takeAllPages(QStringLiteral("dark"));
+        takeBackup();
+        takeErrors();
+        QPalette dark(QColor(53, 53, 53));
+        dark.setColor(QPalette::Base, QColor(35, 35, 35));
+        QApplication::setPalette(dark);
+        takePages(QStringLiteral("dark"), QLocale::English, usualSize);
+        QApplication::setPalette(QApplication::style()->standardPalette());
+        takePages(QStringLiteral("german"), QLocale::German, usualSize);
+        takePages(QStringLiteral("spanish"), QLocale::Spanish, usualSize);
+        takePages(QStringLiteral("800x600"), QLocale::German, QSize(800, 600));
+        m_scale = 2;
+        takePages(QStringLiteral("2x"), QLocale::German, QSize(1366, 768) / m_scale);
         return m_exitStatus;
     }
 
-private slots:
-    /// Goes on with the list, page by page to its end, while the backup runs.
-    void listOn()
-    {
-        FilesPage *page = m_window->filesPage();
-        if (!m_isListed && page->model()->rowCount() > 1) {
-            page->list()->StartLoadingData();
-        }
-    }
-
-    void watch(const BackupProgress &progress)
-    {
-        if (m_isHalfway || progress.phase != BackupPhase::Copying
-            || progress.filesDone * 2 < progress.filesTotal) {
-            return;
-        }
-        m_isHalfway = true;
-        takeAllPages(QStringLiteral("running"));
-        m_window->jobsPage()->bandwidthLimit()->setValue(0);
-    }
-
-    void endListing(qint64, bool completed)
-    {
-        m_isListed = completed;
-        QMetaObject::invokeMethod(this, "listOn", Qt::QueuedConnection);
-        stopWhenDone();
-    }
-
-    void endBackup(const BackupSummary &summary)
-    {
-        m_exitStatus = summary.isComplete() ? m_exitStatus : 1;
-        m_isBackedUp = true;
-        stopWhenDone();
-    }
-
 private:
-    void stopWhenDone()
+    void open(QLocale::Language language, const QSize &size)
     {
-        if (m_isListed && m_isBackedUp) {
-            m_loop.quit();
-        }
+        m_translators->speak(QLocale(language));
+        m_window.reset(new MainWindow(m_store));
+        m_window->resize(size);
+        m_window->show();
+        m_window->activateWindow();
     }
 
-    void take(const QString &name)
+    template <class Widget> Widget *find() const
+    {
+        return m_window->findChild<Widget *>();
+    }
+
+    void waitFor(const std::function<bool()> &condition)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        while (!condition() && timer.elapsed() < 60000) {
+            QApplication::processEvents(QEventLoop::AllEvents, 20);
+        }
+        m_exitStatus = condition() ? m_exitStatus : 1;
+    }
+
+    void take(const QString &name, QWidget *widget)
     {
         QApplication::processEvents();
+        QPixmap picture(widget->size() * m_scale);
+        picture.setDevicePixelRatio(m_scale);
+        widget->render(&picture);
         const QString path = QDir(m_pictures).filePath(name + QStringLiteral(".png"));
-        if (!QDir().mkpath(m_pictures) || !m_window->grab().save(path)) {
-            std::fprintf(stderr, "%s could not be written\n", qPrintable(path));
-            m_exitStatus = 1;
-            return;
-        }
-        std::printf("%s\n", qPrintable(path));
+        const bool isWritten = QDir().mkpath(m_pictures) && picture.save(path);
+        std::printf("%s%s\n", qPrintable(path), isWritten ? "" : " could not be written");
+        m_exitStatus = isWritten ? m_exitStatus : 1;
     }
 
-    void takeAllPages(const QString &name)
+    void takePages(const QString &name)
     {
         const QStringList pages
-            = {QStringLiteral("jobs"), QStringLiteral("files"), QStringLiteral("throughput")};
-        const int shown = m_window->pages()->currentIndex();
-        for (int page = 0; page < m_window->pages()->count(); ++page) {
-            m_window->pages()->setCurrentIndex(page);
-            take(pages.at(page) + QLatin1Char('-') + name);
+            = {QStringLiteral("jobs-"), QStringLiteral("files-"), QStringLiteral("throughput-")};
+        QTabWidget *tabs = find<QTabWidget>();
+        for (int page = 0; page < tabs->count(); ++page) {
+            tabs->setCurrentIndex(page);
+            waitFor([this, page] {
+                return page != 1 || find<BackupRun>()->isRunning()
+                    || find<FileListModel>()->rowCount() > 1;
+            });
+            take(pages.at(page) + name, m_window.get());
         }
-        m_window->pages()->setCurrentIndex(shown);
+        tabs->setCurrentIndex(0);
     }
 
-    void typePassphrase()
+    void takePages(const QString &name, QLocale::Language language, const QSize &size)
     {
-        EditableTableView *table = m_window->jobsPage()->table();
-        const QModelIndex cell = m_window->jobsPage()->jobs()->index(0, JobModel::Passphrase);
-        table->setCurrentIndex(cell);
-        table->edit(cell);
-        if (QLineEdit *field = qobject_cast<QLineEdit *>(table->indexWidget(cell))) {
-            field->insert(QStringLiteral("correct horse"));
-        }
-        take(QStringLiteral("jobs-editing"));
-        table->setCurrentIndex(cell.sibling(0, JobModel::Name));
+        open(language, size);
+        typePassword(password);
+        takePages(name);
     }
 
-    // Slowly at first, so that the chart has something to show, and all of it in the end.
-    void backUp()
+    void typePassword(const QString &text)
     {
-        JobsPage *page = m_window->jobsPage();
-        connect(page->engine(), &BackupEngine::progressChanged, this, &Studio::watch);
-        connect(page->engine(), &BackupEngine::finished, this, &Studio::endBackup);
-        connect(m_window->filesPage()->model(), &FileListModel::pageLoaded, this,
-                &Studio::endListing);
-        page->bandwidthLimit()->setValue(4);
-        static_cast<QPushButton *>(page->table()->button(0, JobModel::Run))->click();
-        if (!page->engine()->isRunning()) {
-            m_exitStatus = 1;
-            return;
+        EditableTableView *table = find<EditableTableView>();
+        table->setCurrentIndex(table->model()->index(0, JobModel::Password));
+        table->edit(table->currentIndex());
+        table->findChild<QLineEdit *>()->insert(text);
+        table->setCurrentIndex(table->model()->index(0, JobModel::Name));
+    }
+
+    void clickRun()
+    {
+        QMetaObject::invokeMethod(find<EditableTableView>()->button(0, JobModel::Run), "click");
+    }
+
+    // Slowly, so that there is something to see of it.
+    void takeBackup()
+    {
+        open(QLocale::English, usualSize);
+        typePassword(password);
+        find<EditableTableView>()->parentWidget()->findChild<SpinBox *>()->setValue(2000);
+        clickRun();
+        waitFor([] {
+            return qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        });
+        if (QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            take(QStringLiteral("question"), box);
+            box->button(QMessageBox::Yes)->click();
         }
-        m_window->pages()->setCurrentWidget(m_window->filesPage());
-        m_loop.exec();
+        waitFor([this] {
+            return find<BackupRun>()->bytesDone() > 0;
+        });
+        QElapsedTimer timer; // the chart has a value a second
+        timer.start();
+        waitFor([&timer] {
+            return timer.elapsed() > 1200;
+        });
+        takePages(QStringLiteral("running"));
+        waitForEnd();
+        takePages(QStringLiteral("finished"));
+    }
+
+    void takeErrors()
+    {
+        takeError(QStringLiteral("error-password"), QStringLiteral("wrong"));
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", "");
+        takeError(QStringLiteral("error-restic"), password);
+        qputenv("PATH", path);
+        const QList<BackupJob> jobs = m_store.load();
+        m_store.save({});
+        open(QLocale::English, usualSize);
+        take(QStringLiteral("jobs-empty"), m_window.get());
+        m_store.save(jobs);
+    }
+
+    void takeError(const QString &name, const QString &typed)
+    {
+        open(QLocale::English, usualSize);
+        typePassword(typed);
+        clickRun();
+        waitForEnd();
+        take(name, m_window.get());
+    }
+
+    void waitForEnd()
+    {
+        waitFor([this] {
+            return !find<BackupRun>()->isRunning();
+        });
     }
 
     QString m_pictures;
+    Translators *m_translators;
     QTemporaryDir m_scratch;
     JobStore m_store;
     std::unique_ptr<MainWindow> m_window;
-    QEventLoop m_loop;
-    bool m_isHalfway = false;
-    bool m_isListed = false;
-    bool m_isBackedUp = false;
+    int m_scale = 1;
     int m_exitStatus = 0;
 };
 
 } // namespace
 
-int takePictures(const CommandLine &commandLine)
+int takePictures(const QString &folder, Translators *translators)
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
     QApplication::setPalette(QApplication::style()->standardPalette());
-    return Studio(commandLine).run();
+    return Studio(folder, translators).run();
 }
-
-#include "Pictures.moc"

@@ -4,12 +4,12 @@
 
 #include <QString>
 
-struct CommandLine;
+class Translators;
 
-/// Runs the window through a backup and writes a picture of each state into the folder, for the
-/// documentation. The user's own jobs are neither shown nor changed. With a source and a target on
-/// the command line that backup is run, else one of a small tree made up for it. Returns the
-/// program's exit status: 1 if a picture could not be written or the backup failed.
-int takePictures(const CommandLine &commandLine);
+/// Leads the window through a backup and writes a picture of each state into the folder, for the
+/// documentation: a real backup, in a scratch folder. The user's own jobs are neither shown nor
+/// changed. Returns the program's exit status: 1 if a picture could not be written or something did
+/// not end as it should.
+int takePictures(const QString &folder, Translators *translators);
 
 #endif

@@ -5,24 +5,26 @@
 #include <QTimer>
 #include <QWidget>
 
-class BackupEngine;
+class BackupRun;
+class QLabel;
 class UpdatablePlot;
 
-/// The bytes copied in each second of the last half hour.
+/// The bytes backed up in each second of the last half hour.
 class ThroughputPage : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The engine is not owned.
-    explicit ThroughputPage(BackupEngine *engine, QWidget *parent = nullptr);
+    /// The run is not owned.
+    explicit ThroughputPage(BackupRun *run, QWidget *parent = nullptr);
 
 private slots:
     void addSecond();
 
 private:
-    BackupEngine *m_engine;
+    BackupRun *m_run;
     UpdatablePlot *m_plot;
+    QLabel *m_now; ///< The figures at the chart's axes are very small.
     QTimer m_everySecond;
     qint64 m_bytesBefore;
 };

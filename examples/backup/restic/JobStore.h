@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#ifndef JOBSTORE_H
+#define JOBSTORE_H
+
+#include "BackupJob.h"
+
+#include <QList>
+
+/// Keeps the jobs, without their passwords, in an INI file: an array [jobs]. The file may also have
+/// a line "restic=/path/of/the/program" at its top.
+class JobStore
+{
+public:
+    /// The file is created, with its folder, by the first save().
+    explicit JobStore(const QString &filePath = defaultFilePath());
+    /// In the user's configuration folder.
+    static QString defaultFilePath();
+
+    /// Whatever can be understood; no file or one that makes no sense gives an empty list.
+    QList<BackupJob> load() const;
+    /// Replaces all the jobs. Returns false if the file cannot be written.
+    bool save(const QList<BackupJob> &jobs) const;
+
+private:
+    QString m_filePath;
+};
+
+#endif

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#ifndef OUTCOME_H
+#define OUTCOME_H
+
+#include <QCoreApplication>
+#include <QJsonObject>
+#include <QMetaType>
+#include <QString>
+
+/// How a run of restic, or a chain of such runs, ended. A plain value.
+struct Outcome
+{
+    Q_DECLARE_TR_FUNCTIONS(Outcome)
+
+public:
+    enum Kind {
+        Done,
+        Incomplete, ///< A snapshot was made, but some files could not be read.
+        Cancelled,
+        Missing, ///< There is no restic.
+        TooOld,
+        NoPassword,
+        WrongPassword,
+        NoRepository,
+        Locked,
+        NoSpace,
+        NoSource,
+        NotEmpty, ///< The folder to restore into has something in it.
+        Damaged, ///< Verifying found errors.
+        Crashed, ///< restic was killed, or died.
+        Failed ///< Anything else: `details` tells.
+    };
+
+    Kind kind = Done;
+    /// restic's own words, in English: the last lines of its error output.
+    QString details;
+    /// Id of the snapshot made, if any.
+    QString snapshot;
+    /// What was restored is below this folder; empty if nothing was.
+    QString restoredInto;
+    bool wasVerified = false;
+    qint64 newFiles = 0;
+    qint64 changedFiles = 0;
+    qint64 unchangedFiles = 0;
+    /// The size of the source, and what the repository took in.
+    qint64 bytesRead = 0;
+    qint64 bytesAdded = 0;
+    /// Lines of restic's output that were no message.
+    int skippedLines = 0;
+
+    bool isGood() const
+    {
+        return kind == Done;
+    }
+    /// A sentence or two: what happened, and what to do.
+    QString text() const;
+
+    /// From a message of the type "summary".
+    void readSummary(const QJsonObject &summary);
+    /// What restic's exit status and its error output mean.
+    static Kind kindOf(int exitStatus, const QString &errors);
+};
+
+Q_DECLARE_METATYPE(Outcome)
+
+#endif

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "ResticRun.h"
+
+#include "Restic.h"
+
+#include <QJsonObject>
+#include <QTimer>
+
+namespace {
+
+// For restic to remove its lock, maybe over a slow line.
+const int patienceMilliseconds = 10000;
+// A line that never ends must not fill the memory.
+const qint64 longestLine = 16 * 1024 * 1024;
+const int keptErrors = 20;
+
+/// Programs that were new enough. Others are asked again: the user may install another version.
+QStringList *goodPrograms()
+{
+    static QStringList programs;
+    return &programs;
+}
+
+// Of a file that could not be read. Versions before 0.16 say why in numbers of the system.
+QString problemText(const QJsonObject &message)
+{
+    const QJsonObject error = message.value("error").toObject();
+    const QString reason = error.value("message").toString();
+    return message.value("item").toString() + ": "
+        + (reason.isEmpty() ? ResticRun::tr("cannot be read") : reason);
+}
+
+} // namespace
+
+ResticRun::ResticRun(QObject *parent)
+    : QObject(parent)
+{
+}
+
+ResticRun::~ResticRun()
+{
+    if (m_process) {
+        m_process->disconnect(this);
+        m_process->kill();
+        m_process->waitForFinished();
+    }
+}
+
+void ResticRun::setOutputFile(const QString &path)
+{
+    m_outputFile = path;
+}
+
+void ResticRun::start(const QString &repository, const QString &password,
+                      const QStringList &arguments)
+{
+    m_program = Restic::program();
+    m_repository = repository;
+    m_password = password;
+    m_arguments = arguments;
+    m_skippedLines = 0;
+    m_isCancelled = false;
+    m_asksVersion = !goodPrograms()->contains(m_program);
+    QTimer::singleShot(0, this, &ResticRun::launch);
+}
+
+void ResticRun::cancel()
+{
+    m_isCancelled = true;
+    if (m_process) {
+        m_process->terminate();
+        QTimer::singleShot(patienceMilliseconds, m_process, &QProcess::kill);
+    }
+}
+
+void ResticRun::launch()
+{
+    if (m_isCancelled) {
+        finish(Outcome::Cancelled);
+        return;
+    }
+    m_lastErrors.clear();
+    m_process = new QProcess(this);
+    m_process->setProcessEnvironment(Restic::environment(m_repository));
+    if (!m_asksVersion && !m_outputFile.isEmpty()) {
+        m_process->setStandardOutputFile(m_outputFile);
+    }
+    connect(m_process, &QProcess::readyReadStandardOutput, this, [this] {
+        readChannel(QProcess::StandardOutput);
+    });
+    connect(m_process, &QProcess::readyReadStandardError, this, [this] {
+        readChannel(QProcess::StandardError);
+    });
+    // Comes whether it ran or not, maybe from within start().
+    connect(m_process, &QProcess::stateChanged, this, [this](QProcess::ProcessState state) {
+        if (state == QProcess::NotRunning) {
+            QTimer::singleShot(0, this, &ResticRun::end);
+        }
+    });
+    m_process->start(
+        m_program, m_asksVersion ? QStringList{"version"} : Restic::globalOptions() + m_arguments);
+    if (!m_asksVersion && m_process->state() != QProcess::NotRunning) {
+        m_process->write(m_password.toUtf8() + '\n');
+    }
+    m_process->closeWriteChannel();
+}
+
+void ResticRun::readChannel(QProcess::ProcessChannel channel)
+{
+    m_process->setReadChannel(channel);
+    const bool isAtEnd = m_process->state() == QProcess::NotRunning;
+    while (m_process->canReadLine() || (isAtEnd && m_process->bytesAvailable() > 0)
+           || m_process->bytesAvailable() > longestLine) {
+        const QByteArray line = m_process->readLine(longestLine).trimmed();
+        channel == QProcess::StandardOutput ? readLine(line) : readErrorLine(line);
+    }
+}
+
+void ResticRun::readLine(const QByteArray &line)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(line);
+    if (m_asksVersion) {
+        m_lastErrors.append(QString::fromUtf8(line));
+    } else if (!document.isNull()) {
+        emit message(document);
+    } else if (!m_arguments.contains("--json")) {
+        emit textLine(QString::fromUtf8(line));
+    } else if (!line.isEmpty() && !line.startsWith("reading repository password")) {
+        ++m_skippedLines;
+    }
+}
+
+void ResticRun::readErrorLine(const QByteArray &line)
+{
+    const QJsonObject message = QJsonDocument::fromJson(line).object();
+    QString text = QString::fromUtf8(line);
+    if (message.contains("error")) {
+        text = problemText(message);
+        emit problemFound(text);
+    } else if (message.contains("message")) {
+        text = message.value("message").toString();
+    }
+    m_lastErrors = (m_lastErrors << text).mid(m_lastErrors.size() - keptErrors);
+}
+
+void ResticRun::end()
+{
+    readChannel(QProcess::StandardOutput);
+    readChannel(QProcess::StandardError);
+    const Outcome::Kind kind = kindOfEnd();
+    m_process->deleteLater();
+    m_process = nullptr;
+    if (m_asksVersion && kind == Outcome::Done) {
+        m_asksVersion = false;
+        goodPrograms()->append(m_program);
+        launch();
+    } else {
+        finish(kind);
+    }
+}
+
+Outcome::Kind ResticRun::kindOfEnd() const
+{
+    const QString errors = m_lastErrors.join(QLatin1Char('\n'));
+    if (m_process->error() == QProcess::FailedToStart) {
+        return Outcome::Missing;
+    }
+    if (m_process->exitStatus() == QProcess::CrashExit) {
+        return m_isCancelled ? Outcome::Cancelled : Outcome::Crashed;
+    }
+    if (m_asksVersion) {
+        return Restic::isNewEnough(errors) ? Outcome::Done : Outcome::TooOld;
+    }
+    const Outcome::Kind kind = Outcome::kindOf(m_process->exitCode(), errors);
+    return m_isCancelled && kind != Outcome::Done ? Outcome::Cancelled : kind;
+}
+
+void ResticRun::finish(Outcome::Kind kind)
+{
+    Outcome outcome;
+    outcome.kind = kind;
+    outcome.details = m_lastErrors.join(QLatin1Char('\n'));
+    outcome.skippedLines = m_skippedLines;
+    m_password.clear();
+    emit finished(outcome);
+}

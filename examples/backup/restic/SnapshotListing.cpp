@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "SnapshotListing.h"
+
+namespace {
+
+const int waitMilliseconds = 50;
+// So few that a window goes on answering in between.
+const int linesAtOnce = 500;
+
+} // namespace
+
+SnapshotListing::SnapshotListing(QObject *parent)
+    : QObject(parent)
+    , m_file(m_folder.filePath("files"))
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &SnapshotListing::readOn);
+}
+
+void SnapshotListing::open(const BackupJob &job, const QString &snapshot)
+{
+    m_timer.stop();
+    m_run.reset(new ResticRun);
+    m_file.close();
+    m_file.remove();
+    m_unfinishedLine.clear();
+    m_files.clear();
+    m_pageSize = 0;
+    m_isWritten = false;
+    connect(m_run.get(), &ResticRun::finished, this, [this](const Outcome &outcome) {
+        m_outcome = outcome;
+        m_isWritten = true;
+    });
+    m_run->setOutputFile(m_file.fileName());
+    m_run->start(job.repository, job.password, {"ls", "--json", "--", snapshot});
+}
+
+void SnapshotListing::requestPage(int count)
+{
+    m_pageSize = count;
+    m_timer.start(0);
+}
+
+void SnapshotListing::readOn()
+{
+    const bool wasWritten = m_isWritten;
+    const bool mayHaveMore = readLines();
+    if (m_files.size() > m_pageSize || (wasWritten && !mayHaveMore)) {
+        deliver();
+    } else {
+        m_timer.start(mayHaveMore ? 0 : waitMilliseconds);
+    }
+}
+
+// False at what is, for now, the end of the file.
+bool SnapshotListing::readLines()
+{
+    if (!m_file.isOpen() && !m_file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    for (int count = 0; count < linesAtOnce && m_files.size() <= m_pageSize; ++count) {
+        m_unfinishedLine += m_file.readLine();
+        if (!m_unfinishedLine.endsWith('\n')) {
+            return false;
+        }
+        SnapshotFile file;
+        if (SnapshotFile::read(m_unfinishedLine, &file)) {
+            m_files.append(file);
+        }
+        m_unfinishedLine.clear();
+    }
+    return true;
+}
+
+void SnapshotListing::deliver()
+{
+    const bool isLast = m_files.size() <= m_pageSize;
+    if (isLast && !m_outcome.isGood()) {
+        emit failed(m_outcome);
+        return;
+    }
+    const QList<SnapshotFile> page = m_files.mid(0, m_pageSize);
+    m_files = m_files.mid(m_pageSize);
+    emit pageRead(page, isLast);
+}

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#ifndef SNAPSHOTLISTING_H
+#define SNAPSHOTLISTING_H
+
+#include "BackupJob.h"
+#include "ResticRun.h"
+#include "Snapshot.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <memory>
+
+/// The files of a snapshot, page by page. restic writes all of them into a temporary file, at its
+/// own speed; no more than a page is in memory.
+class SnapshotListing : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SnapshotListing(QObject *parent = nullptr);
+
+    /// Starts over, with this snapshot. A page that was asked for before does not come any more.
+    void open(const BackupJob &job, const QString &snapshot);
+    /// pageRead() follows, or failed(); never from within this call.
+    void requestPage(int count);
+
+signals:
+    /// As many files as were asked for; fewer if they are the last ones.
+    void pageRead(const QList<SnapshotFile> &files, bool completed);
+    void failed(const Outcome &outcome);
+
+private:
+    void readOn();
+    bool readLines();
+    void deliver();
+
+    QTemporaryDir m_folder;
+    QFile m_file;
+    std::unique_ptr<ResticRun> m_run;
+    QTimer m_timer;
+    QByteArray m_unfinishedLine;
+    /// The page, and one file more, which tells whether there is another page.
+    QList<SnapshotFile> m_files;
+    int m_pageSize = 0;
+    bool m_isWritten = false;
+    Outcome m_outcome;
+};
+
+#endif
