@@ -53,6 +53,22 @@ public:
     }
 };
 
+/// Items that no others can join.
+class FixedList : public QStringListModel
+{
+public:
+    FixedList()
+        : QStringListModel(QStringList() << "red"
+                                         << "green")
+    {
+    }
+
+    bool insertRows(int, int, const QModelIndex &) override
+    {
+        return false;
+    }
+};
+
 } // namespace
 
 /// What the toolkit does with a text that is typed into a list, and what items are known by.
@@ -64,6 +80,8 @@ private Q_SLOTS:
     void completesATextToAnItem();
     void addsATypedTextToTheBoundModelByReturn();
     void addsNoTextThatTheListHas();
+    void writesATextThatTheListDoesNotTake();
+    void writesATextThatJoinsALaterColumn();
     void addsNothingWhenTheFieldIsLeft();
     void addsNothingWhenColumnsAreDeclaredAnew();
     void offersAnAddedTextInTheNextCell();
@@ -107,6 +125,34 @@ void TypedIntoListsTest::addsNoTextThatTheListHas()
     commitEditor(box);
 
     QCOMPARE(table.items.stringList().join(","), QString("red,green,blue"));
+}
+
+void TypedIntoListsTest::writesATextThatTheListDoesNotTake()
+{
+    FixedList items;
+    Colours table;
+    table.view.bindModel(0, &items);
+    QWidget *box = table.type("red", "pink");
+    QVERIFY(box);
+
+    commitEditor(box);
+
+    QCOMPARE(table.model.writes, QStringList("edit pink"));
+    QCOMPARE(items.stringList().join(","), QString("red,green"));
+}
+
+void TypedIntoListsTest::writesATextThatJoinsALaterColumn()
+{
+    QStandardItemModel items(1, 2);
+    items.setItem(0, 1, new QStandardItem("red"));
+    Colours table;
+    table.view.bindModel(0, &items, 1);
+    QWidget *box = table.type("red", "pink");
+    QVERIFY(box);
+
+    commitEditor(box);
+
+    QCOMPARE(table.model.writes, QStringList("edit pink"));
 }
 
 void TypedIntoListsTest::addsNothingWhenTheFieldIsLeft()
