@@ -49,6 +49,22 @@ public:
     }
 };
 
+/// Gets another row on top as soon as it is written into, once.
+class GrowingModel : public RecordingModel
+{
+public:
+    GrowingModel()
+        : RecordingModel(1, 1)
+    {
+    }
+
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override
+    {
+        const bool done = RecordingModel::setData(index, value, role);
+        return rowCount() > 1 ? done : insertRow(0);
+    }
+};
+
 } // namespace
 
 /// Secrets that are written again, in whole or in part, over others or over the same.
@@ -63,6 +79,7 @@ private Q_SLOTS:
     void writesTheSameMaskAgain();
     void writesNoMaskWhereTheSecretAloneWasCleared();
     void masksASecretThatTheModelRefuses();
+    void masksTheCellWhereverItsFirstWriteMovesIt();
     void masksEachCharacter_data();
     void masksEachCharacter();
     void writesASecretOnce();
@@ -146,6 +163,19 @@ void SecretsTypedAnewTest::masksASecretThatTheModelRefuses()
 
     QCOMPARE(model.writes,
              QStringList() << "secret abc" << QString("display " + field.displayText()));
+}
+
+void SecretsTypedAnewTest::masksTheCellWhereverItsFirstWriteMovesIt()
+{
+    GrowingModel model;
+    QLineEdit field;
+    field.setEchoMode(QLineEdit::Password);
+    QTest::keyClicks(&field, "abc");
+
+    PasswordItemDelegate().setModelData(&field, &model, model.index(0, 0));
+
+    QCOMPARE(model.index(0, 0).data().toString(), QString());
+    QCOMPARE(model.index(1, 0).data().toString(), field.displayText());
 }
 
 void SecretsTypedAnewTest::masksEachCharacter_data()

@@ -82,6 +82,7 @@ private Q_SLOTS:
     void addsNoTextThatTheListHas();
     void writesATextThatTheListDoesNotTake();
     void writesATextThatJoinsALaterColumn();
+    void emptiesACellWhoseTextIsDeleted();
     void addsNothingWhenTheFieldIsLeft();
     void addsNothingWhenColumnsAreDeclaredAnew();
     void offersAnAddedTextInTheNextCell();
@@ -153,6 +154,20 @@ void TypedIntoListsTest::writesATextThatJoinsALaterColumn()
     commitEditor(box);
 
     QCOMPARE(table.model.writes, QStringList("edit pink"));
+}
+
+void TypedIntoListsTest::emptiesACellWhoseTextIsDeleted()
+{
+    Colours table;
+    QComboBox *box = table.type("red", "pink");
+    QVERIFY(box);
+    box->lineEdit()->selectAll();
+    QTest::keyClick(box, Qt::Key_Delete);
+
+    commitEditor(box);
+
+    QCOMPARE(table.model.writes, QStringList("edit "));
+    QCOMPARE(table.items.rowCount(), 3);
 }
 
 void TypedIntoListsTest::addsNothingWhenTheFieldIsLeft()
