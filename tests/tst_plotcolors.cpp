@@ -24,6 +24,7 @@ class PlotColorsTest : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void startsInTheSameColorsInADarkApplication();
     void takesABackgroundThatCanBeSeenThrough();
     void drawsAnyCurveAsTranslucentAsOthers_data();
     void drawsAnyCurveAsTranslucentAsOthers();
@@ -52,6 +53,20 @@ void addRowsForUnknownColors()
 }
 
 } // namespace
+
+void PlotColorsTest::startsInTheSameColorsInADarkApplication()
+{
+    const QPalette previous = QApplication::palette();
+    QPalette dark(QColor(50, 50, 50));
+    dark.setColor(QPalette::Base, Qt::black);
+    QApplication::setPalette(dark);
+
+    const UpdatablePlot plot(nullptr);
+
+    QApplication::setPalette(previous);
+    QCOMPARE(plot.bgColor(), QString("#ffffff"));
+    QCOMPARE(plot.curveColor(), QString("#000000"));
+}
 
 void PlotColorsTest::takesABackgroundThatCanBeSeenThrough()
 {

@@ -9,6 +9,7 @@
 
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_layout.h>
+#include <qwt_scale_draw.h>
 #include <qwt_text.h>
 
 namespace {
@@ -18,6 +19,12 @@ int pretendedSeconds = 0;
 QDateTime pretendedTime()
 {
     return PlotClock::startTime.addSecs(pretendedSeconds);
+}
+
+/// A clock that goes on whenever it is looked at.
+QDateTime tickingTime()
+{
+    return PlotClock::startTime.addSecs(++pretendedSeconds);
 }
 
 /// Counts how often it is drawn anew.
@@ -62,6 +69,8 @@ private Q_SLOTS:
     void isAPlotWithItsDefaults();
     void drawsItsCurveBeforeTheGrid();
     void takesSamplesFromBeforeItsStart();
+    void looksAtTheClockOnceForASample();
+    void startsWithTheHalfHourOfTheProcess();
 };
 
 void PlotRedrawsTest::initTestCase()
@@ -248,6 +257,35 @@ void PlotRedrawsTest::takesSamplesFromBeforeItsStart()
     pretendedSeconds = 0;
     QCOMPARE(compat::pointAt(compat::curveOf(plot), 0), QPointF(-50, 5000));
     QCOMPARE(upperEnd(plot, QwtPlot::xBottom), -52.0);
+}
+
+void PlotRedrawsTest::looksAtTheClockOnceForASample()
+{
+    UpdatablePlot plot;
+    pretendedSeconds = 99;
+    PlotClock::currentDateTime = tickingTime;
+
+    plot.updateData(5000);
+
+    PlotClock::currentDateTime = pretendedTime;
+    QCOMPARE(pretendedSeconds, 100);
+    QCOMPARE(compat::pointAt(compat::curveOf(plot), 0), QPointF(100, 5000));
+    QCOMPARE(upperEnd(plot, QwtPlot::xBottom), 98.0);
+}
+
+void PlotRedrawsTest::startsWithTheHalfHourOfTheProcess()
+{
+    pretendedSeconds = 0;
+    UpdatablePlot early;
+    pretendedSeconds = 7200;
+
+    UpdatablePlot late; // it counts from the same moment
+
+    early.replot();
+    late.replot();
+    QCOMPARE(upperEnd(late, QwtPlot::xBottom), upperEnd(early, QwtPlot::xBottom));
+    QVERIFY(late.axisScaleDraw(QwtPlot::xBottom)->label(0)
+            == early.axisScaleDraw(QwtPlot::xBottom)->label(0));
 }
 
 TESSALINE_TEST_MAIN(PlotRedrawsTest)
