@@ -38,7 +38,7 @@ private Q_SLOTS:
     void makesAnotherWidgetEachTime();
     void givesTheSameDescriptorsAgain();
     void keepsItsDescriptorsWhenTheGivenListChanges();
-    void initializesOneDescriptorAlone();
+    void initializesOneDescriptorOnly();
 };
 
 void DesignedWidgetsTest::makesATableAsAnApplicationDoes()
@@ -101,15 +101,16 @@ void DesignedWidgetsTest::keepsItsDescriptorsWhenTheGivenListChanges()
     QCOMPARE(int(collection.customWidgets().size()), before);
 }
 
-void DesignedWidgetsTest::initializesOneDescriptorAlone()
+void DesignedWidgetsTest::initializesOneDescriptorOnly()
 {
     const Tessaline collection;
-    const QList<QDesignerCustomWidgetInterface *> descriptors = collection.customWidgets();
+    const Tessaline other;
 
-    descriptors.first()->initialize(nullptr);
+    collection.customWidgets().last()->initialize(nullptr);
 
-    QVERIFY(descriptors.first()->isInitialized());
-    QVERIFY(!descriptors.last()->isInitialized());
+    QVERIFY(collection.customWidgets().last()->isInitialized());
+    QVERIFY(!collection.customWidgets().first()->isInitialized());
+    QVERIFY(!other.customWidgets().last()->isInitialized());
 }
 
 TESSALINE_TEST_MAIN(DesignedWidgetsTest)

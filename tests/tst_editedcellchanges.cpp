@@ -17,9 +17,12 @@ struct EditedTable : EditorFixture
     explicit EditedTable(const QString &declaration)
         : EditorFixture(declaration)
         , items(QStringList() << "old"
-                              << "new"
-                              << "typed")
+                              << "new")
     {
+        if (declaration == "combobox") {
+            items.insertRow(2);
+            items.setData(items.index(2), "typed"); // which others would complete to an item
+        }
         view.bindModel(0, &items);
     }
 

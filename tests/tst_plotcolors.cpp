@@ -188,6 +188,7 @@ void PlotColorsTest::takesTheSameCurveColorOverWhatTheApplicationDrew()
     plot.setCurveColor("red");
 
     QCOMPARE(curve.pen().color(), QColor(255, 0, 0, 150));
+    QCOMPARE(curve.pen().widthF(), qreal(1.0));
     QCOMPARE(curve.brush().style(), Qt::SolidPattern);
 }
 
