@@ -39,6 +39,7 @@ private Q_SLOTS:
     void hasSectionsThatTheUserCanSize();
     void sizesTheModelsFirstColumnWhereverItIsOnTheScreen();
     void leavesAsMuchRoomAsTheScrollBarTakes();
+    void leavesRoomForTheScrollBarWhenOnlyTheHeightChanges();
     void leavesFurtherColumnsAlone();
 };
 
@@ -99,6 +100,20 @@ void FileListByMouseTest::leavesAsMuchRoomAsTheScrollBarTakes()
 
     QCOMPARE(list.view.verticalScrollBar()->width(), 40);
     QCOMPARE(widths(list.view), QString("245,120,70,55,65"));
+}
+
+void FileListByMouseTest::leavesRoomForTheScrollBarWhenOnlyTheHeightChanges()
+{
+    List list;
+    list.fill(21); // with the paging row 396 pixels: the bar is there, by the header's height
+    QTRY_VERIFY(list.view.verticalScrollBar()->isVisible());
+    QCOMPARE(list.view.horizontalHeader()->sectionSize(0), 285);
+
+    list.view.resize(600, 390);
+    QCoreApplication::processEvents();
+
+    const int bar = list.view.verticalScrollBar()->width();
+    QCOMPARE(list.view.horizontalHeader()->sectionSize(0), 285 - bar);
 }
 
 void FileListByMouseTest::leavesFurtherColumnsAlone()

@@ -11,6 +11,7 @@ class FileListTurnsTest : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void asksForAPageThatIsWantedWhenTheButtonComes();
     void asksForAPageThatIsWantedWhenTheButtonGoes();
     void asksOnceWhenAPageIsWantedWhileTheSessionChanges();
     void startsAnewWhenTheSessionChangesAsTheButtonGoes();
@@ -102,6 +103,22 @@ void addRowsForTheTurns()
 }
 
 } // namespace
+
+void FileListTurnsTest::asksForAPageThatIsWantedWhenTheButtonComes()
+{
+    List list;
+    list.view.StartLoadingData();
+    PagedModel other;
+    view = &list.view;
+    signalsToCome = 1;
+    connect(&other, SIGNAL(rowsInserted(QModelIndex,int,int)), SLOT(wantAPage()));
+
+    list.view.setModel(&other);
+
+    QCOMPARE(other.requests, 1);
+    list.view.StartLoadingData();
+    QCOMPARE(other.requests, 1); // that page is on its way
+}
 
 void FileListTurnsTest::asksForAPageThatIsWantedWhenTheButtonGoes()
 {

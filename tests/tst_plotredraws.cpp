@@ -22,12 +22,6 @@ QDateTime pretendedTime()
     return PlotClock::startTime.addSecs(pretendedSeconds);
 }
 
-/// A clock that goes on whenever it is looked at.
-QDateTime tickingTime()
-{
-    return PlotClock::startTime.addSecs(++pretendedSeconds);
-}
-
 /// Counts how often it is drawn anew.
 class NotingPlot : public UpdatablePlot
 {
@@ -69,9 +63,6 @@ private Q_SLOTS:
     void labelsItsAxesInTextsOfAutomaticFormat();
     void isAPlotWithItsDefaults();
     void drawsItsCurveOverTheGrid();
-    void takesSamplesFromBeforeItsStart();
-    void looksAtTheClockOnceForASample();
-    void startsWithTheHalfHourOfTheProcess();
 };
 
 void PlotRedrawsTest::initTestCase()
@@ -249,47 +240,6 @@ void PlotRedrawsTest::drawsItsCurveOverTheGrid()
     QCOMPARE(int(curve.yAxis()), int(QwtPlot::yLeft));
     QCOMPARE(int(grid->yAxis()), int(QwtPlot::yLeft));
     QVERIFY(!curve.testRenderHint(QwtPlotItem::RenderAntialiased));
-}
-
-void PlotRedrawsTest::takesSamplesFromBeforeItsStart()
-{
-    UpdatablePlot plot;
-    pretendedSeconds = -50; // the clock was set back
-
-    plot.updateData(5000);
-
-    pretendedSeconds = 0;
-    QCOMPARE(compat::pointAt(compat::curveOf(plot), 0), QPointF(-50, 5000));
-    QCOMPARE(upperEnd(plot, QwtPlot::xBottom), -52.0);
-}
-
-void PlotRedrawsTest::looksAtTheClockOnceForASample()
-{
-    UpdatablePlot plot;
-    pretendedSeconds = 99;
-    PlotClock::currentDateTime = tickingTime;
-
-    plot.updateData(5000);
-
-    PlotClock::currentDateTime = pretendedTime;
-    QCOMPARE(pretendedSeconds, 100);
-    QCOMPARE(compat::pointAt(compat::curveOf(plot), 0), QPointF(100, 5000));
-    QCOMPARE(upperEnd(plot, QwtPlot::xBottom), 98.0);
-}
-
-void PlotRedrawsTest::startsWithTheHalfHourOfTheProcess()
-{
-    pretendedSeconds = 0;
-    UpdatablePlot early;
-    pretendedSeconds = 7200;
-
-    UpdatablePlot late; // it counts from the same moment
-
-    early.replot();
-    late.replot();
-    QCOMPARE(upperEnd(late, QwtPlot::xBottom), upperEnd(early, QwtPlot::xBottom));
-    QVERIFY(late.axisScaleDraw(QwtPlot::xBottom)->label(0)
-            == early.axisScaleDraw(QwtPlot::xBottom)->label(0));
 }
 
 TESSALINE_TEST_MAIN(PlotRedrawsTest)

@@ -86,6 +86,8 @@ private Q_SLOTS:
     void losesASecretThatIsEscaped();
     void leavesTheFocusOfOthersAloneWhenItGivesAFieldUp();
     void takesAFieldThatItGaveUpAway();
+    void leavesTheFocusToTheTableWhenItGivesAFieldUp_data();
+    void leavesTheFocusToTheTableWhenItGivesAFieldUp();
 };
 
 void SecretsTypedAnewTest::writesTheSameSecretAgain()
@@ -259,6 +261,35 @@ void SecretsTypedAnewTest::takesAFieldThatItGaveUpAway()
     QVERIFY(!field->isVisible());
     goThroughEvents();
     QVERIFY(!field);
+}
+
+void SecretsTypedAnewTest::leavesTheFocusToTheTableWhenItGivesAFieldUp_data()
+{
+    QTest::addColumn<bool>("isActive");
+
+    QTest::newRow("in an active window") << true;
+    QTest::newRow("in another window's shade") << false;
+}
+
+void SecretsTypedAnewTest::leavesTheFocusToTheTableWhenItGivesAFieldUp()
+{
+    QFETCH(bool, isActive);
+    tolerateWarnings("QAbstractItemView::"); // Qt 6 has given the editor up before
+    Secret table;
+    table.view.openPersistentEditor(table.model.index(0, 0));
+    QWidget *field = table.view.indexWidget(table.model.index(0, 0));
+    QLineEdit next(&table.view);
+    next.show();
+    QWidget other;
+    if (!isActive) {
+        showWindow(&other, 100, 100);
+    }
+    field->setFocus();
+    QCOMPARE(table.view.window()->focusWidget(), field);
+
+    table.model.insertColumn(0);
+
+    QCOMPARE(table.view.window()->focusWidget(), static_cast<QWidget *>(&table.view));
 }
 
 TESSALINE_TEST_MAIN(SecretsTypedAnewTest)
