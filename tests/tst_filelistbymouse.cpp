@@ -2,6 +2,7 @@
 #include "ShownList.h"
 #include "TestCase.h"
 
+#include <QHeaderView>
 #include <QMouseEvent>
 #include <QScrollBar>
 

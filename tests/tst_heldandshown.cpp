@@ -113,6 +113,12 @@ void addRowsForTexts()
     QTest::newRow("field, blanks") << "editbox"
                                    << " held "
                                    << " held ";
+    QTest::newRow("list to type in, two lines") << "editcombobox"
+                                                << "a\nb"
+                                                << "a\nb";
+    QTest::newRow("field, two lines") << "editbox"
+                                      << "a\nb"
+                                      << "a\nb";
     QTest::newRow("check box") << "checkbox"
                                << ""
                                << "off";
