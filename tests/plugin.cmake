@@ -1,9 +1,11 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 # The descriptors, and the library as a plug-in.
 
-tessaline_add_test(tst_designerplugins LIBRARIES TessalineTestSupport TessalineWidgets
-    TessalineDesigner ${plot_objects})
-target_include_directories(tst_designerplugins PRIVATE ${PROJECT_SOURCE_DIR}/designer)
+foreach(test IN ITEMS tst_designedwidgets tst_designerplugins)
+    tessaline_add_test(${test} LIBRARIES TessalineTestSupport TessalineWidgets TessalineDesigner
+        ${plot_objects})
+    target_include_directories(${test} PRIVATE ${PROJECT_SOURCE_DIR}/designer)
+endforeach()
 
 tessaline_add_test(tst_plugin LIBRARIES TessalineTestSupport TessalineLibrary
     ${TESSALINE_QT_UIPLUGIN})
@@ -18,7 +20,7 @@ if(TESSALINE_HAS_PLOT AND NOT TESSALINE_QT EQUAL 4) # what is left in the progra
         TESSALINE_PLUGIN_FILE="$<TARGET_FILE:TessalineLibrary>")
 endif()
 
-set(plugin_tests tst_designerplugins tst_plugin)
+set(plugin_tests tst_designedwidgets tst_designerplugins tst_plugin)
 if(TESSALINE_QT_UITOOLS)
     list(APPEND plugin_tests tst_loadedforms)
     tessaline_add_test(tst_loadedforms LIBRARIES TessalineTestSupport TessalineLibrary

@@ -95,8 +95,9 @@ Q_SIGNALS:
 public Q_SLOTS:
     /// Makes editors opened from now on in a "combobox" or "editcombobox" column list the column
     /// `modelColumn` of `model`, a QAbstractItemModel that is not owned; with a null model they
-    /// list nothing. Does nothing for other columns and other objects. Lasts until the next
-    /// setColumns().
+    /// list nothing. A text that is typed in an "editcombobox" and ended with the Return key is
+    /// added to `model`, unless that refuses it. Does nothing for other columns and other objects.
+    /// Lasts until the next setColumns().
     void bindModel(int columnIndex, QObject *model, int modelColumn = 0);
 
     /// Whether the horizontal header can be clicked; off by default.

@@ -143,21 +143,32 @@ void FileListTableView::FinishLoadingData(qint64, bool completed)
     if (nextButton) {
         nextButton->setText(label + QLatin1String(" >>"));
     }
+    const QPointer<FileListTableView> self(this);
     if (completed) {
         RemoveButtons();
     }
-    AdjustColumnswidth();
+    if (self) { // a slot that heard of the removal may have deleted it
+        AdjustColumnswidth();
+    }
 }
 
+// A slot that hears of the rows may set another model, whose rows are none of this session's, or
+// delete the list.
 void FileListTableView::SessionChanged()
 {
-    if (!standardModel) {
-        return;
-    }
+    const QPointer<FileListTableView> self(this);
+    const QPointer<QStandardItemModel> changed = standardModel;
+    const auto goesOn = [self, changed]() {
+        return self && changed && self->standardModel == changed;
+    };
     RemoveButtons();
-    standardModel->removeRows(0, standardModel->rowCount());
-    AddButtons();
-    if (!detaching) {
+    if (goesOn()) {
+        changed->removeRows(0, changed->rowCount());
+    }
+    if (goesOn()) {
+        AddButtons();
+    }
+    if (goesOn() && !detaching) {
         StartLoadingData();
     }
 }
