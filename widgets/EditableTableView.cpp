@@ -14,6 +14,7 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QItemDelegate>
+#include <QPointer>
 
 namespace {
 
@@ -68,7 +69,11 @@ QStringList EditableTableView::getColumns() const
 
 void EditableTableView::setColumns(const QStringList &declarations)
 {
+    const QPointer<EditableTableView> self(this);
     finishEditing();
+    if (!self) { // a slot that heard of a commit has deleted it
+        return;
+    }
     columns = declarations;
     discardDelegates();
     for (int column = 0; column < columns.size(); ++column) {

@@ -129,6 +129,11 @@ inline bool sectionsClickable(const QHeaderView *header)
     return header->isClickable();
 }
 
+inline bool sectionsMovable(const QHeaderView *header)
+{
+    return header->isMovable();
+}
+
 inline void fixSection(QHeaderView *header, int section)
 {
     header->setResizeMode(section, QHeaderView::Fixed);
@@ -137,6 +142,11 @@ inline void fixSection(QHeaderView *header, int section)
 inline void freeSection(QHeaderView *header, int section)
 {
     header->setResizeMode(section, QHeaderView::Interactive);
+}
+
+inline void fitSection(QHeaderView *header, int section)
+{
+    header->setResizeMode(section, QHeaderView::ResizeToContents);
 }
 
 /// Turns the mouse wheel over a widget, by eighths of a degree.
@@ -242,6 +252,11 @@ inline bool sectionsClickable(const QHeaderView *header)
     return header->sectionsClickable();
 }
 
+inline bool sectionsMovable(const QHeaderView *header)
+{
+    return header->sectionsMovable();
+}
+
 inline void fixSection(QHeaderView *header, int section)
 {
     header->setSectionResizeMode(section, QHeaderView::Fixed);
@@ -250,6 +265,11 @@ inline void fixSection(QHeaderView *header, int section)
 inline void freeSection(QHeaderView *header, int section)
 {
     header->setSectionResizeMode(section, QHeaderView::Interactive);
+}
+
+inline void fitSection(QHeaderView *header, int section)
+{
+    header->setSectionResizeMode(section, QHeaderView::ResizeToContents);
 }
 
 /// Turns the mouse wheel over a widget, by eighths of a degree.
