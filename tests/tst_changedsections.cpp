@@ -80,7 +80,6 @@ private Q_SLOTS:
     void readTheStretchSectionWhenTheViewIsResized();
     void readTheStretchSectionAmongNewColumns();
     void keepTheirWidthsWhenTheStretchSectionIsGone();
-    void leaveWhatWasPutOffToTheStretchSection();
     void leaveRoomForTheScrollBar();
     void fillTheViewByTheColumnsOfTheTopLevel();
     void makeUpByTheColumnsOfTheTopLevel_data();
@@ -156,21 +155,6 @@ void ChangedSectionsTest::keepTheirWidthsWhenTheStretchSectionIsGone()
     table.setHeaderWidth(450);
 
     QCOMPARE(table.sectionWidths(), QString("100,200"));
-}
-
-// The header fits the section to its contents as soon as it is asked for a size.
-void ChangedSectionsTest::leaveWhatWasPutOffToTheStretchSection()
-{
-    Table table(0);
-    compat::fitSection(table.header, 1);
-    goThroughEvents();
-    table.setSectionWidths();
-    table.model.setData(table.model.index(0, 1), QString(30, QChar('m')));
-
-    table.setHeaderWidth(500);
-
-    QVERIFY(table.header->sectionSize(1) != 200);
-    QCOMPARE(table.header->sectionSize(2), 100);
 }
 
 void ChangedSectionsTest::leaveRoomForTheScrollBar()

@@ -144,11 +144,6 @@ inline void freeSection(QHeaderView *header, int section)
     header->setResizeMode(section, QHeaderView::Interactive);
 }
 
-inline void fitSection(QHeaderView *header, int section)
-{
-    header->setResizeMode(section, QHeaderView::ResizeToContents);
-}
-
 /// Turns the mouse wheel over a widget, by eighths of a degree.
 inline void turnWheel(QWidget *widget, const QPoint &place, int angle)
 {
@@ -265,11 +260,6 @@ inline void fixSection(QHeaderView *header, int section)
 inline void freeSection(QHeaderView *header, int section)
 {
     header->setSectionResizeMode(section, QHeaderView::Interactive);
-}
-
-inline void fitSection(QHeaderView *header, int section)
-{
-    header->setSectionResizeMode(section, QHeaderView::ResizeToContents);
 }
 
 /// Turns the mouse wheel over a widget, by eighths of a degree.
