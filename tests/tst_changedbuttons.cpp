@@ -3,6 +3,8 @@
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
+#include <QAbstractButton>
+
 namespace {
 
 class GermanCaptions : public compat::Translator

@@ -5,6 +5,7 @@
 #include "ViewHelpers.h"
 
 #include <QHeaderView>
+#include <QPushButton>
 
 /// What an editable table and its buttons have from the toolkit, and leave as it is.
 class TableDefaultsTest : public TestCase
