@@ -16,6 +16,7 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QItemDelegate>
+#include <QPointer>
 
 namespace {
 
@@ -70,7 +71,11 @@ QStringList EditableTableView::getColumns() const
 
 void EditableTableView::setColumns(const QStringList &declarations)
 {
+    const QPointer<EditableTableView> self(this);
     finishEditing();
+    if (!self) { // a slot that heard of a commit has deleted it
+        return;
+    }
     columns = declarations;
     discardDelegates();
     for (int column = 0; column < columns.size(); ++column) {

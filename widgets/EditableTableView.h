@@ -63,7 +63,8 @@ public:
 
     /// Replaces all declarations. Open editors are committed and closed, persistent ones too; then
     /// the old delegates are deleted and with them every binding that bindModel() made. A delegate
-    /// that the application installed itself stays. Buttons that exist stay until their rows go.
+    /// that the application installed itself stays where no editor is declared. Buttons that exist
+    /// stay until their rows go.
     void setColumns(const QStringList &declarations);
 
     /// What setStretchSection() was given; 0 at first.

@@ -43,6 +43,22 @@ void commit(QAbstractItemView *view, const QMap<int, QItemDelegate *> &delegates
     }
 }
 
+// A persistent editor is left open by close(), and closePersistentEditor() would have the model
+// revert what was committed.
+void closeWhenCommitted(const QPointer<QAbstractItemView> &view, const QPointer<QWidget> &editor,
+                        const std::function<void(QWidget *)> &close)
+{
+    CellEditor::Commit::whenDone(editor, [view, editor, close]() {
+        if (view && isOpen(view, editor)) {
+            close(editor);
+        }
+        if (view && isOpen(view, editor)) {
+            view->setIndexWidget(CellEditor::cellOf(editor), nullptr);
+            editor->hide();
+        }
+    });
+}
+
 bool hasEditorOfAnotherDelegate(const QAbstractItemView &view)
 {
     const QObjectList &children = view.viewport()->children();
@@ -60,16 +76,14 @@ void finish(QAbstractItemView *view, const QMap<int, QItemDelegate *> &delegates
             const std::function<void(QWidget *)> &close)
 {
     const QPointer<QAbstractItemView> self(view);
-    const std::vector<QPointer<QWidget>> editors = editorsIn(*view);
-    for (const QPointer<QWidget> &editor : editors) { // of which one may go with another
+    for (const QPointer<QWidget> &editor : editorsIn(*view)) { // of which one may go with another
         commit(self, delegates, editor);
-        CellEditor::Commit::whenDone(editor, [self, editor, close]() {
-            if (self && isOpen(self, editor)) {
-                const QPersistentModelIndex cell = CellEditor::cellOf(editor);
-                close(editor);
-                self->closePersistentEditor(cell); // where it is one: close() leaves those open
-            }
-        });
+        closeWhenCommitted(self, editor, close);
+    }
+    if (self) {
+        for (const QPointer<QWidget> &editor : editorsIn(*self)) { // that slots opened meanwhile
+            closeWhenCommitted(self, editor, close);
+        }
     }
 }
 

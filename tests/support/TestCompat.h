@@ -136,6 +136,11 @@ inline bool sectionsClickable(const QHeaderView *header)
     return header->isClickable();
 }
 
+inline bool sectionsMovable(const QHeaderView *header)
+{
+    return header->isMovable();
+}
+
 inline void fixSection(QHeaderView *header, int section)
 {
     header->setResizeMode(section, QHeaderView::Fixed);
@@ -252,6 +257,11 @@ const bool editorsOutliveNestedLoops = true;
 inline bool sectionsClickable(const QHeaderView *header)
 {
     return header->sectionsClickable();
+}
+
+inline bool sectionsMovable(const QHeaderView *header)
+{
+    return header->sectionsMovable();
 }
 
 inline void fixSection(QHeaderView *header, int section)

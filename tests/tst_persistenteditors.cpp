@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "TableInEdit.h"
+#include "TestCase.h"
+#include "ViewHelpers.h"
+
+#include <QLineEdit>
+
+namespace {
+
+/// Notes what it is told to do with what was written, as models of a database are.
+class CollectingModel : public RecordingModel
+{
+public:
+    CollectingModel()
+        : RecordingModel(3, 3)
+    {
+    }
+
+    bool submit() override
+    {
+        orders.append("submit");
+        return true;
+    }
+
+    void revert() override
+    {
+        orders.append("revert");
+    }
+
+    QStringList orders;
+};
+
+struct Table
+{
+    Table()
+    {
+        view.setColumns(declarations());
+        view.setModel(&model);
+        showWindow(&view, 400, 300);
+    }
+
+    /// Types into an editor that stays open in a cell.
+    QPointer<QWidget> type(int row, const QString &text, int column = 0)
+    {
+        view.openPersistentEditor(model.index(row, column));
+        const QPointer<QWidget> editor = view.indexWidget(model.index(row, column));
+        QTest::keyClicks(editor, text);
+        return editor;
+    }
+
+    CollectingModel model;
+    EditableTableView view;
+};
+
+} // namespace
+
+/// What setColumns() makes of editors that the application holds open, and of others beside them.
+class PersistentEditorsTest : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void areCommittedInEachRow();
+    void keepWhatIsCommittedFromTheCurrentCell();
+    void areClosedThoughTheSameColumnsAreDeclared();
+    void areOutOfSightAtOnce();
+    void areNotCommittedAgainWhenTheyGo();
+    void handTheFocusToTheTable_data();
+    void handTheFocusToTheTable();
+    void leaveTheFocusOfOthersAlone();
+    void canBeOpenedAgain();
+    void letTheUserEditTheNextCell_data();
+    void letTheUserEditTheNextCell();
+    void stayInAnotherTableOfTheSameModel();
+};
+
+void PersistentEditorsTest::areCommittedInEachRow()
+{
+    Table table;
+    table.type(0, "a");
+    table.type(1, "b");
+    table.type(2, "secret", 2);
+
+    table.view.setColumns(QStringList());
+
+    QCOMPARE(texts(table.model, 0), QString("a,b,"));
+    QCOMPARE(table.model.index(2, 2).data(Qt::UserRole + 1).toString(), QString("secret"));
+}
+
+void PersistentEditorsTest::keepWhatIsCommittedFromTheCurrentCell()
+{
+    Table table;
+    const QPointer<QWidget> editor = table.type(1, "typed");
+    table.view.setCurrentIndex(table.model.index(1, 0));
+    table.model.orders.clear();
+
+    table.view.setColumns(QStringList());
+    goThroughEvents();
+
+    QVERIFY(!editor);
+    QCOMPARE(table.model.writes, QStringList("edit typed"));
+    QCOMPARE(table.model.orders, QStringList());
+}
+
+void PersistentEditorsTest::areClosedThoughTheSameColumnsAreDeclared()
+{
+    Table table;
+    const QPointer<QWidget> editor = table.type(1, "typed");
+
+    table.view.setColumns(declarations());
+    goThroughEvents();
+
+    QVERIFY(!editor);
+    QCOMPARE(texts(table.model, 0), QString(",typed,"));
+}
+
+void PersistentEditorsTest::areOutOfSightAtOnce()
+{
+    Table table;
+    const QPointer<QWidget> editor = table.type(1, "typed");
+
+    table.view.setColumns(QStringList());
+
+    QVERIFY(!editor || !editor->isVisible());
+    QVERIFY(!table.view.indexWidget(table.model.index(1, 0)));
+}
+
+void PersistentEditorsTest::areNotCommittedAgainWhenTheyGo()
+{
+    Table table;
+    const QPointer<QWidget> editor = table.type(1, "typed");
+    editor->setFocus();
+
+    table.view.setColumns(QStringList("passwordbox"));
+    goThroughEvents();
+
+    QCOMPARE(table.model.writes, QStringList("edit typed"));
+}
+
+void PersistentEditorsTest::handTheFocusToTheTable_data()
+{
+    QTest::addColumn<bool>("persistent");
+
+    QTest::newRow("persistent") << true;
+    QTest::newRow("opened by key") << false;
+}
+
+void PersistentEditorsTest::handTheFocusToTheTable()
+{
+    QFETCH(bool, persistent);
+    Table table;
+    const QPointer<QWidget> editor = persistent
+        ? table.type(1, "typed")
+        : QPointer<QWidget>(openEditor(&table.view, table.model.index(1, 0)));
+    QVERIFY(editor);
+    editor->setFocus();
+    QVERIFY(editor->hasFocus());
+
+    table.view.setColumns(QStringList());
+    goThroughEvents();
+
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(&table.view));
+}
+
+void PersistentEditorsTest::leaveTheFocusOfOthersAlone()
+{
+    Table table;
+    table.type(1, "typed");
+    QLineEdit *other = new QLineEdit(&table.view);
+    other->show();
+    other->setFocus();
+
+    table.view.setColumns(QStringList());
+    goThroughEvents();
+
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(other));
+}
+
+void PersistentEditorsTest::canBeOpenedAgain()
+{
+    Table table;
+    const QPointer<QWidget> editor = table.type(1, "typed");
+    table.view.setColumns(QStringList("checkbox"));
+
+    table.view.openPersistentEditor(table.model.index(1, 0));
+    goThroughEvents();
+
+    QVERIFY(!editor);
+    QWidget *box = table.view.indexWidget(table.model.index(1, 0));
+    QVERIFY(box);
+    QVERIFY(box->inherits("QCheckBox"));
+}
+
+void PersistentEditorsTest::letTheUserEditTheNextCell_data()
+{
+    QTest::addColumn<int>("currentRow");
+
+    QTest::newRow("from the edited cell") << 0;
+    QTest::newRow("from another cell") << 2;
+}
+
+void PersistentEditorsTest::letTheUserEditTheNextCell()
+{
+    QFETCH(int, currentRow);
+    Table table;
+    table.view.setCurrentIndex(table.model.index(currentRow, 0));
+    table.view.edit(table.model.index(0, 0));
+    QVERIFY(table.view.indexWidget(table.model.index(0, 0)));
+
+    table.view.setColumns(QStringList("editbox"));
+
+    QVERIFY(openEditor(&table.view, table.model.index(1, 0)));
+}
+
+void PersistentEditorsTest::stayInAnotherTableOfTheSameModel()
+{
+    Table table;
+    EditableTableView other;
+    other.setColumns(declarations());
+    other.setModel(&table.model);
+    other.openPersistentEditor(table.model.index(0, 0));
+    const QPointer<QWidget> editor = other.indexWidget(table.model.index(0, 0));
+    QTest::keyClicks(editor, "unfinished");
+    table.type(1, "typed");
+
+    table.view.setColumns(QStringList());
+    goThroughEvents();
+
+    QVERIFY(editor);
+    QCOMPARE(other.indexWidget(table.model.index(0, 0)), editor.data());
+    QCOMPARE(table.model.writes, QStringList("edit typed"));
+}
+
+TESSALINE_TEST_MAIN(PersistentEditorsTest)
+#include "tst_persistenteditors.moc"
