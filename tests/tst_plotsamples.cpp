@@ -120,10 +120,12 @@ void PlotSamplesTest::labelsTheStartInLocalTime_data()
     QTest::newRow("UTC") << QByteArray("UTC0") << "2026-03-01 12:38:10.000" << QTime(12, 35);
     QTest::newRow("half an hour beside")
         << QByteArray("IST-5:30") << "2026-03-01 12:38:10.000" << QTime(18, 5);
+#ifndef Q_OS_WIN // its C library reads no rules for summer time in TZ
     QTest::newRow("before the clock goes forward")
         << QByteArray("CET-1CEST,M3.5.0,M10.5.0/3") << "2026-03-29 00:58:00.000" << QTime(1, 55);
     QTest::newRow("after the clock went forward")
         << QByteArray("CET-1CEST,M3.5.0,M10.5.0/3") << "2026-03-29 01:01:00.000" << QTime(3, 0);
+#endif
 }
 
 void PlotSamplesTest::labelsTheStartInLocalTime()
