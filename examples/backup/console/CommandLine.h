@@ -2,7 +2,7 @@
 #ifndef COMMANDLINE_H
 #define COMMANDLINE_H
 
-#include "BackupJob.h"
+#include "JobStore.h"
 
 #include <QCoreApplication>
 #include <QString>

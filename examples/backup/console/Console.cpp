@@ -3,7 +3,7 @@
 
 #include "BackupRun.h"
 #include "CommandLine.h"
-#include "Snapshot.h"
+#include "SnapshotListing.h"
 #include "Terminal.h"
 
 #include <QHash>

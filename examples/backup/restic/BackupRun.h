@@ -2,13 +2,38 @@
 #ifndef BACKUPRUN_H
 #define BACKUPRUN_H
 
-#include "BackupJob.h"
-#include "BackupProgress.h"
+#include "JobStore.h"
 #include "ResticRun.h"
 
+#include <QCoreApplication>
+#include <QJsonObject>
 #include <QLockFile>
 
 #include <memory>
+
+/// How far a run has come. A plain value.
+struct BackupProgress
+{
+    Q_DECLARE_TR_FUNCTIONS(BackupProgress)
+
+public:
+    enum Phase { Preparing, BackingUp, Verifying, Restoring };
+
+    Phase phase = Preparing;
+    /// Of 0 to 1; less than 0 while unknown.
+    double fraction = -1;
+    /// The totals grow while restic still looks for files. Zero but for a backup.
+    qint64 bytesDone = 0;
+    qint64 bytesTotal = 0;
+    qint64 filesDone = 0;
+    qint64 filesTotal = 0;
+    QString currentFile;
+
+    /// From a message of the type "status".
+    void read(const QJsonObject &status);
+    /// One line, with the current file at its end.
+    QString text() const;
+};
 
 /// A backup and its verifying, or a restore: one run of restic after the other, and what goes
 /// between them. One at a time.

@@ -2,8 +2,7 @@
 #include "Outcome.h"
 
 #include "JobStore.h"
-#include "Restic.h"
-#include "SizeText.h"
+#include "ResticRun.h"
 
 #include <QLocale>
 #include <QRegularExpression>
@@ -97,6 +96,19 @@ QString failureText(const Outcome &outcome)
 }
 
 } // namespace
+
+QString sizeText(qint64 bytes)
+{
+    const char *const units[] = {"B", "KB", "MB", "GB", "TB", "PB", "EB"};
+    double size = static_cast<double>(bytes);
+    int exponent = 0;
+    for (; size >= 1024.0; ++exponent) {
+        size /= 1024.0;
+    }
+    const int decimals = exponent == 0 || size >= 100.0 ? 0 : size >= 10.0 ? 1 : 2;
+    return QLocale().toString(size, 'f', decimals) + QLatin1Char(' ')
+        + QLatin1String(units[exponent]);
+}
 
 QString Outcome::text() const
 {

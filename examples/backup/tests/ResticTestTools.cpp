@@ -2,7 +2,6 @@
 #include "ResticTestTools.h"
 
 #include "JobStore.h"
-#include "Restic.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>

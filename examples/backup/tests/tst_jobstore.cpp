@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "JobStore.h"
-#include "SizeText.h"
+#include "Outcome.h"
 
 #include <QDir>
 #include <QFile>

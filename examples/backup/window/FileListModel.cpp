@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "FileListModel.h"
 
-#include "SizeText.h"
-
 #include <QFileInfo>
 #include <QLocale>
 

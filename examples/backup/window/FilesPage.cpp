@@ -3,7 +3,6 @@
 
 #include "FileListModel.h"
 #include "Question.h"
-#include "Restic.h"
 
 #include <FileListTableView.h>
 #include <SpinBox.h>

@@ -3,8 +3,7 @@
 #define FILESPAGE_H
 
 #include "BackupRun.h"
-#include "ResticRun.h"
-#include "Snapshot.h"
+#include "SnapshotListing.h"
 
 #include <QWidget>
 

@@ -2,7 +2,7 @@
 #ifndef JOBMODEL_H
 #define JOBMODEL_H
 
-#include "BackupJob.h"
+#include "JobStore.h"
 
 #include <QList>
 #include <QPersistentModelIndex>

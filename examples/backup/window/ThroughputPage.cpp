@@ -2,7 +2,6 @@
 #include "ThroughputPage.h"
 
 #include "BackupRun.h"
-#include "SizeText.h"
 
 #include <UpdatablePlot.h>
 
