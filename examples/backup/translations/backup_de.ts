@@ -209,10 +209,6 @@ Endstatus:
         <translation>Dateien</translation>
     </message>
     <message>
-        <source>How many files &quot;Next&quot; adds to the list, from %1 to %2</source>
-        <translation>Wie viele Dateien „Weiter“ der Liste hinzufügt, von %1 bis %2</translation>
-    </message>
-    <message>
         <source>&amp;Show snapshots</source>
         <translation>S&amp;napshots zeigen</translation>
     </message>
@@ -256,6 +252,10 @@ Endstatus:
         <source>Looking for snapshots...</source>
         <translation>Sucht Snapshots ...</translation>
     </message>
+    <message>
+        <source>How many files &quot;Next&quot; adds to the list, from 10 to 10000</source>
+        <translation>Wie viele Dateien „Weiter“ der Liste hinzufügt, von 10 bis 10000</translation>
+    </message>
 </context>
 <context>
     <name>JobModel</name>
@@ -282,34 +282,6 @@ Endstatus:
     <message>
         <source>Choose a folder...</source>
         <translation>Ordner wählen ...</translation>
-    </message>
-    <message>
-        <source>Password: asked for</source>
-        <translation>Passwort: wird erfragt</translation>
-    </message>
-    <message>
-        <source>Password: typed</source>
-        <translation>Passwort: eingegeben</translation>
-    </message>
-    <message>
-        <source>Verify: no</source>
-        <translation>Prüfen: nein</translation>
-    </message>
-    <message>
-        <source>Verify: yes</source>
-        <translation>Prüfen: ja</translation>
-    </message>
-    <message>
-        <source>Cancel %1</source>
-        <translation>%1 abbrechen</translation>
-    </message>
-    <message>
-        <source>Run %1</source>
-        <translation>%1 starten</translation>
-    </message>
-    <message>
-        <source>Remove %1</source>
-        <translation>%1 entfernen</translation>
     </message>
 </context>
 <context>
@@ -378,6 +350,18 @@ Endstatus:
         <source>Folder to back up</source>
         <translation>Zu sichernder Ordner</translation>
     </message>
+    <message>
+        <source>Cancel %1</source>
+        <translation>%1 abbrechen</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>%1 starten</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -404,6 +388,30 @@ Endstatus:
     <message>
         <source>The list of backups could not be saved.</source>
         <translation>Die Liste der Sicherungen konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Nothing is running.</source>
+        <translation>Es läuft nichts.</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>What restic said</source>
+        <translation>Was restic sagte</translation>
+    </message>
+    <message>
+        <source>There is no repository there yet. Create one? Whoever loses its password loses the backups in it.</source>
+        <translation>Dort ist noch kein Repository. Eines anlegen? Wer sein Passwort verliert, verliert die Sicherungen darin.</translation>
+    </message>
+    <message>
+        <source>A program that is no longer there has left the repository locked. Remove the lock?</source>
+        <translation>Ein Programm, das nicht mehr läuft, hat das Repository gesperrt zurückgelassen. Die Sperre entfernen?</translation>
     </message>
 </context>
 <context>
@@ -489,33 +497,6 @@ Endstatus:
     <message>
         <source>cannot be read</source>
         <translation>kann nicht gelesen werden</translation>
-    </message>
-</context>
-<context>
-    <name>RunPanel</name>
-    <message>
-        <source>Nothing is running.</source>
-        <translation>Es läuft nichts.</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Abbrechen</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
-    </message>
-    <message>
-        <source>What restic said</source>
-        <translation>Was restic sagte</translation>
-    </message>
-    <message>
-        <source>There is no repository there yet. Create one? Whoever loses its password loses the backups in it.</source>
-        <translation>Dort ist noch kein Repository. Eines anlegen? Wer sein Passwort verliert, verliert die Sicherungen darin.</translation>
-    </message>
-    <message>
-        <source>A program that is no longer there has left the repository locked. Remove the lock?</source>
-        <translation>Ein Programm, das nicht mehr läuft, hat das Repository gesperrt zurückgelassen. Die Sperre entfernen?</translation>
     </message>
 </context>
 <context>

@@ -209,10 +209,6 @@ Estado de salida:
         <translation>Archivos</translation>
     </message>
     <message>
-        <source>How many files &quot;Next&quot; adds to the list, from %1 to %2</source>
-        <translation>Cuántos archivos añade «Siguiente» a la lista, de %1 a %2</translation>
-    </message>
-    <message>
         <source>&amp;Show snapshots</source>
         <translation>Mostrar in&amp;stantáneas</translation>
     </message>
@@ -256,6 +252,10 @@ Estado de salida:
         <source>Looking for snapshots...</source>
         <translation>Buscando instantáneas...</translation>
     </message>
+    <message>
+        <source>How many files &quot;Next&quot; adds to the list, from 10 to 10000</source>
+        <translation>Cuántos archivos añade «Siguiente» a la lista, de 10 a 10000</translation>
+    </message>
 </context>
 <context>
     <name>JobModel</name>
@@ -282,34 +282,6 @@ Estado de salida:
     <message>
         <source>Choose a folder...</source>
         <translation>Elegir una carpeta...</translation>
-    </message>
-    <message>
-        <source>Password: asked for</source>
-        <translation>Contraseña: se pedirá</translation>
-    </message>
-    <message>
-        <source>Password: typed</source>
-        <translation>Contraseña: escrita</translation>
-    </message>
-    <message>
-        <source>Verify: no</source>
-        <translation>Verificar: no</translation>
-    </message>
-    <message>
-        <source>Verify: yes</source>
-        <translation>Verificar: sí</translation>
-    </message>
-    <message>
-        <source>Cancel %1</source>
-        <translation>Cancelar %1</translation>
-    </message>
-    <message>
-        <source>Run %1</source>
-        <translation>Iniciar %1</translation>
-    </message>
-    <message>
-        <source>Remove %1</source>
-        <translation>Quitar %1</translation>
     </message>
 </context>
 <context>
@@ -378,6 +350,18 @@ Estado de salida:
         <source>Folder to back up</source>
         <translation>Carpeta que se ha de copiar</translation>
     </message>
+    <message>
+        <source>Cancel %1</source>
+        <translation>Cancelar %1</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>Iniciar %1</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>Quitar %1</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -404,6 +388,30 @@ Estado de salida:
     <message>
         <source>The list of backups could not be saved.</source>
         <translation>No se pudo guardar la lista de copias.</translation>
+    </message>
+    <message>
+        <source>Nothing is running.</source>
+        <translation>No hay nada en marcha.</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>Canc&amp;elar</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>What restic said</source>
+        <translation>Lo que dijo restic</translation>
+    </message>
+    <message>
+        <source>There is no repository there yet. Create one? Whoever loses its password loses the backups in it.</source>
+        <translation>Allí aún no hay ningún repositorio. ¿Crear uno? Quien pierde su contraseña pierde las copias que contiene.</translation>
+    </message>
+    <message>
+        <source>A program that is no longer there has left the repository locked. Remove the lock?</source>
+        <translation>Un programa que ya no está dejó bloqueado el repositorio. ¿Quitar el bloqueo?</translation>
     </message>
 </context>
 <context>
@@ -489,33 +497,6 @@ Estado de salida:
     <message>
         <source>cannot be read</source>
         <translation>no se puede leer</translation>
-    </message>
-</context>
-<context>
-    <name>RunPanel</name>
-    <message>
-        <source>Nothing is running.</source>
-        <translation>No hay nada en marcha.</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>Canc&amp;elar</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progreso</translation>
-    </message>
-    <message>
-        <source>What restic said</source>
-        <translation>Lo que dijo restic</translation>
-    </message>
-    <message>
-        <source>There is no repository there yet. Create one? Whoever loses its password loses the backups in it.</source>
-        <translation>Allí aún no hay ningún repositorio. ¿Crear uno? Quien pierde su contraseña pierde las copias que contiene.</translation>
-    </message>
-    <message>
-        <source>A program that is no longer there has left the repository locked. Remove the lock?</source>
-        <translation>Un programa que ya no está dejó bloqueado el repositorio. ¿Quitar el bloqueo?</translation>
     </message>
 </context>
 <context>
