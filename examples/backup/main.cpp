@@ -32,7 +32,7 @@ int runInWindow(int argc, char **argv)
         return Console::run(line);
     }
     if (line.task == CommandLine::TakePictures) {
-        return takePictures(line.folder, &translators);
+        return takePictures(line.folder);
     }
     MainWindow window((JobStore()));
     window.show();
