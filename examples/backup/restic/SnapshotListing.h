@@ -62,7 +62,6 @@ signals:
 
 private:
     void readOn();
-    bool readLines();
     void deliver();
 
     QTemporaryDir m_folder;
