@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "BackupRun.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
@@ -27,14 +26,6 @@ QStringList backUpArguments(const BackupJob &job, int kibibytesPerSecond)
         result += {"--exclude", repository.replace(special, "\\\\1")};
     }
     return result << "--" << source;
-}
-
-/// A file to be locked by who makes this repository.
-QString creationLock(const QString &repository)
-{
-    const QByteArray path = Restic::sourcePath(repository).toUtf8();
-    const QByteArray name = QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex();
-    return QDir::temp().filePath("tessaline-" + QString::fromLatin1(name) + ".lock");
 }
 
 qint64 number(const QJsonObject &object, const char *key)
@@ -80,7 +71,7 @@ bool BackupRun::verify(const BackupJob &job)
 
 bool BackupRun::restore(const BackupJob &job, const QString &snapshot, const QString &folder)
 {
-    const QDir target = QDir(Restic::address(folder)).absolutePath();
+    const QDir target = QDir(folder).absolutePath();
     const bool isEmpty
         = target.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     return begin(job, {{"restore", "--target", target.path(), "--", snapshot}},
@@ -209,7 +200,9 @@ void BackupRun::answer(bool yes)
 // restic itself lets two of them make one repository, which is then of no use.
 void BackupRun::create()
 {
-    m_creation.reset(new QLockFile(creationLock(m_job.repository)));
+    const QString name
+        = QString("tessaline-%1.lock").arg(qHash(Restic::sourcePath(m_job.repository)));
+    m_creation.reset(new QLockFile(QDir::temp().filePath(name)));
     m_creation->setStaleLockTime(0);
     if (m_isCancelled || m_creation->tryLock(0)) {
         m_steps.prepend(QStringList("init"));

@@ -36,7 +36,7 @@ public:
     Kind kind = Done;
     /// restic's own words, in English: the last lines of its error output.
     QString details;
-    /// Id of the snapshot made, if any.
+    /// The id, if one was made.
     QString snapshot;
     /// A sentence for each thing done.
     QStringList achieved;

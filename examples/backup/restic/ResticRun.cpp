@@ -10,18 +10,14 @@
 
 namespace {
 
-// For restic to remove its lock, maybe over a slow line.
-const int patienceMilliseconds = 10000;
 // A line that never ends must not fill the memory.
 const qint64 longestLine = 16 * 1024 * 1024;
-const int keptErrors = 20;
 
-// Of a file that could not be read. Versions before 0.16 say why in numbers of the system.
-QString problemText(const QJsonObject &message)
+// With "~" for the home folder.
+QString address(const QString &typed)
 {
-    const QJsonObject error = message.value("error").toObject();
-    const QString reason = error.value("message").toString(ResticRun::tr("cannot be read"));
-    return message.value("item").toString() + ": " + reason;
+    const bool isAtHome = typed == "~" || typed.startsWith("~/");
+    return isAtHome ? QDir::homePath() + typed.mid(1) : typed;
 }
 
 } // namespace
@@ -47,12 +43,6 @@ QProcessEnvironment Restic::environment(const QString &repository)
         result.insert("RESTIC_CACHE_DIR", QDir::temp().filePath("restic-cache"));
     }
     return result;
-}
-
-QString Restic::address(const QString &typed)
-{
-    const bool isAtHome = typed == "~" || typed.startsWith("~/");
-    return isAtHome ? QDir::homePath() + typed.mid(1) : typed;
 }
 
 QString Restic::sourcePath(const QString &typed)
@@ -93,7 +83,8 @@ void ResticRun::cancel()
     m_isCancelled = true;
     if (m_process) {
         m_process->terminate();
-        QTimer::singleShot(patienceMilliseconds, m_process, &QProcess::kill);
+        // It removes its lock first, maybe over a slow line.
+        QTimer::singleShot(10000, m_process, &QProcess::kill);
     }
 }
 
@@ -155,14 +146,14 @@ void ResticRun::readLine(const QByteArray &line)
 void ResticRun::readErrorLine(const QByteArray &line)
 {
     const QJsonObject message = QJsonDocument::fromJson(line).object();
-    QString text = QString::fromUtf8(line);
+    QString text = message.value("message").toString(QString::fromUtf8(line));
     if (message.contains("error")) {
-        text = problemText(message);
+        // Versions before 0.16 say why in numbers of the system.
+        const QJsonValue reason = message.value("error").toObject().value("message");
+        text = message.value("item").toString() + ": " + reason.toString(tr("cannot be read"));
         emit problemFound(text);
-    } else if (message.contains("message")) {
-        text = message.value("message").toString();
     }
-    m_lastErrors = (m_lastErrors << text).mid(m_lastErrors.size() - keptErrors);
+    m_lastErrors = (m_lastErrors << text).mid(m_lastErrors.size() - 20);
 }
 
 void ResticRun::end()

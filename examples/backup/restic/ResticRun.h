@@ -17,8 +17,6 @@ namespace Restic {
 bool isNewEnough(const QString &version);
 /// This process's environment, without what would beat the password from the standard input.
 QProcessEnvironment environment(const QString &repository);
-/// What the user typed, with "~" for the home folder.
-QString address(const QString &typed);
 /// An absolute path without links, which restic would store in place of what they lead to.
 QString sourcePath(const QString &typed);
 

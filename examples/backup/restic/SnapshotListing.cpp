@@ -96,21 +96,14 @@ void SnapshotListing::readOn()
         }
         m_unfinishedLine = isAtEnd ? m_unfinishedLine : QByteArray();
     }
-    if (m_files.size() > m_pageSize || (wasWritten && isAtEnd)) {
-        deliver();
-    } else {
-        m_timer.start(isAtEnd ? 50 : 0); // the end, for now
-    }
-}
-
-void SnapshotListing::deliver()
-{
     const bool isLast = m_files.size() <= m_pageSize;
-    if (isLast && !m_outcome.isGood()) {
+    if (isLast && !(wasWritten && isAtEnd)) {
+        m_timer.start(isAtEnd ? 50 : 0); // the end, for now
+    } else if (isLast && !m_outcome.isGood()) {
         emit failed(m_outcome);
-        return;
+    } else {
+        const QList<SnapshotFile> page = m_files.mid(0, m_pageSize);
+        m_files = m_files.mid(m_pageSize);
+        emit pageRead(page, isLast);
     }
-    const QList<SnapshotFile> page = m_files.mid(0, m_pageSize);
-    m_files = m_files.mid(m_pageSize);
-    emit pageRead(page, isLast);
 }

@@ -62,7 +62,6 @@ signals:
 
 private:
     void readOn();
-    void deliver();
 
     QTemporaryDir m_folder;
     QFile m_file;
