@@ -6,7 +6,6 @@
 
 namespace {
 
-const int waitMilliseconds = 50;
 // So few that a window goes on answering in between.
 const int linesAtOnce = 500;
 
@@ -75,8 +74,7 @@ void SnapshotListing::open(const BackupJob &job, const QString &snapshot)
         m_outcome = outcome;
         m_isWritten = true;
     });
-    m_run->setOutputFile(m_file.fileName());
-    m_run->start(job.repository, job.password, {"ls", "--json", "--", snapshot});
+    m_run->start(job.repository, job.password, {"ls", "--json", "--", snapshot}, m_file.fileName());
 }
 
 void SnapshotListing::requestPage(int count)
@@ -88,42 +86,24 @@ void SnapshotListing::requestPage(int count)
 void SnapshotListing::readOn()
 {
     const bool wasWritten = m_isWritten;
-    const bool mayHaveMore = readLines();
-    if (m_files.size() > m_pageSize || (wasWritten && !mayHaveMore)) {
-        deliver();
-    } else {
-        m_timer.start(mayHaveMore ? 0 : waitMilliseconds);
-    }
-}
-
-// False at what is, for now, the end of the file.
-bool SnapshotListing::readLines()
-{
-    if (!m_file.isOpen() && !m_file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    for (int count = 0; count < linesAtOnce && m_files.size() <= m_pageSize; ++count) {
+    bool isAtEnd = !m_file.isOpen() && !m_file.open(QIODevice::ReadOnly);
+    for (int line = 0; line < linesAtOnce && !isAtEnd && m_files.size() <= m_pageSize; ++line) {
         m_unfinishedLine += m_file.readLine();
-        if (!m_unfinishedLine.endsWith('\n')) {
-            return false;
-        }
+        isAtEnd = !m_unfinishedLine.endsWith('\n');
         SnapshotFile file;
-        if (SnapshotFile::read(m_unfinishedLine, &file)) {
+        if (!isAtEnd && SnapshotFile::read(m_unfinishedLine, &file)) {
             m_files.append(file);
         }
-        m_unfinishedLine.clear();
+        m_unfinishedLine = isAtEnd ? m_unfinishedLine : QByteArray();
     }
-    return true;
-}
-
-void SnapshotListing::deliver()
-{
     const bool isLast = m_files.size() <= m_pageSize;
-    if (isLast && !m_outcome.isGood()) {
+    if (isLast && !(wasWritten && isAtEnd)) {
+        m_timer.start(isAtEnd ? 50 : 0); // the end, for now
+    } else if (isLast && !m_outcome.isGood()) {
         emit failed(m_outcome);
-        return;
+    } else {
+        const QList<SnapshotFile> page = m_files.mid(0, m_pageSize);
+        m_files = m_files.mid(m_pageSize);
+        emit pageRead(page, isLast);
     }
-    const QList<SnapshotFile> page = m_files.mid(0, m_pageSize);
-    m_files = m_files.mid(m_pageSize);
-    emit pageRead(page, isLast);
 }

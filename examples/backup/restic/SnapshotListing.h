@@ -62,8 +62,6 @@ signals:
 
 private:
     void readOn();
-    bool readLines();
-    void deliver();
 
     QTemporaryDir m_folder;
     QFile m_file;
