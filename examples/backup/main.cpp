@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "CommandLine.h"
 #include "Console.h"
-#include "JobStore.h"
 #include "MainWindow.h"
 #include "Pictures.h"
 #include "Translators.h"
@@ -9,46 +7,28 @@
 #include <QApplication>
 #include <QLocale>
 
-namespace {
+#include <clocale>
+#include <memory>
 
-// Without a locale, as in cron, Qt 5 takes no file's name for one that is not ASCII.
-void expectUtf8()
+int main(int argc, char **argv)
 {
-    QByteArray locale;
-    for (const char *name : {"LC_ALL", "LC_CTYPE", "LANG"}) {
-        locale = locale.isEmpty() ? qgetenv(name) : locale;
-    }
-    if (locale.isEmpty() || locale == "C" || locale == "POSIX") {
+    // Without a locale, as in cron, Qt 5 takes no file's name for one that is not ASCII.
+    if (QByteArray(std::setlocale(LC_CTYPE, "")) == "C") {
         qputenv("LC_ALL", "C.UTF-8");
     }
-}
-
-int runInWindow(int argc, char **argv)
-{
-    QApplication application(argc, argv);
-    Translators translators(QCoreApplication::applicationDirPath(), QLocale());
-    const CommandLine line = CommandLine::parse(QCoreApplication::arguments());
-    if (!line.error.isEmpty()) {
-        return Console::run(line);
+    QCoreApplication::setApplicationVersion(QStringLiteral(BACKUP_VERSION));
+    const bool takesPictures = argc == 3 && QByteArray(argv[1]) == "--pictures";
+    const bool needsDisplay = argc == 1 || takesPictures;
+    const std::unique_ptr<QCoreApplication> application(
+        needsDisplay ? new QApplication(argc, argv) : new QCoreApplication(argc, argv));
+    const Translators translators(QCoreApplication::applicationDirPath(), QLocale());
+    if (takesPictures) {
+        return takePictures(QCoreApplication::arguments().constLast());
     }
-    if (line.task == CommandLine::TakePictures) {
-        return takePictures(line.folder, &translators);
+    if (!needsDisplay) {
+        return Console::run(QCoreApplication::arguments());
     }
     MainWindow window((JobStore()));
     window.show();
     return QApplication::exec();
-}
-
-} // namespace
-
-int main(int argc, char **argv)
-{
-    expectUtf8();
-    QCoreApplication::setApplicationVersion(QStringLiteral(BACKUP_VERSION));
-    if (CommandLine::needsDisplay(argc, argv)) {
-        return runInWindow(argc, argv);
-    }
-    QCoreApplication application(argc, argv);
-    const Translators translators(QCoreApplication::applicationDirPath(), QLocale());
-    return Console::run(CommandLine::parse(QCoreApplication::arguments()));
 }

@@ -2,31 +2,138 @@
 #include "Console.h"
 
 #include "BackupRun.h"
-#include "CommandLine.h"
-#include "Snapshot.h"
-#include "Terminal.h"
+#include "SnapshotListing.h"
 
-#include <QHash>
+#include <QCommandLineParser>
 #include <QLocale>
+#include <QProcess>
 
 #include <cstdio>
+#include <iostream>
+#include <string>
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
 
 namespace {
 
-const int refusedStatus = 2;
+// Fits the narrowest usual terminal: a line that wraps could not be rewritten.
+const int width = 78;
+bool showsProgress = false;
 
-int exitStatus(Outcome::Kind kind)
+bool isTerminal(std::FILE *stream)
 {
-    static const QHash<int, int> others
-        = {{Outcome::Done, 0},          {Outcome::Incomplete, 3}, {Outcome::Damaged, 4},
-           {Outcome::WrongPassword, 5}, {Outcome::Locked, 6},     {Outcome::Failed, 1},
-           {Outcome::Crashed, 1},       {Outcome::NoSpace, 1},    {Outcome::Cancelled, 1}};
-    return others.value(kind, refusedStatus);
+#ifdef _WIN32
+    return ::_isatty(::_fileno(stream)) != 0;
+#else
+    return ::isatty(::fileno(stream)) != 0;
+#endif
+}
+
+void addOptions(QCommandLineParser *parser)
+{
+    parser->setApplicationDescription(Console::tr("Backups, by restic."));
+    parser->addHelpOption();
+    parser->addVersionOption();
+    parser->addOptions({
+        {"source", Console::tr("Back up FOLDER."), "FOLDER"},
+        {"target", Console::tr("A folder, or an address such as sftp:host:/path."), "REPOSITORY"},
+        {"run", Console::tr("Back up the source into the target.")},
+        {"verify", Console::tr("Read all of the target back; after the backup if with --run.")},
+        {"restore",
+         Console::tr("Restore SNAPSHOT, or the \"latest\", from the target into the folder named "
+                     "last, which must be empty or new."),
+         "SNAPSHOT"},
+        {"snapshots", Console::tr("List the snapshots in the target.")},
+        {"init", Console::tr("Make the repository if it is not there.")},
+        {"unlock", Console::tr("Remove a lock that a dead program left.")},
+        {"limit-upload", Console::tr("Write RATE KB a second at most."), "RATE"},
+        {"quiet", Console::tr("Say nothing unless something is wrong.")},
+        {"pictures", Console::tr("Write pictures of the window into FOLDER."), "FOLDER"},
+    });
+}
+
+QString exitStatusText()
+{
+    return Console::tr(
+        "The password is the first line of the standard input; on a terminal it is asked "
+        "for.\n"
+        "Exit status:\n"
+        "  0  done\n"
+        "  1  failed\n"
+        "  2  the arguments make no sense, or something is missing: restic, source, "
+        "repository, password\n"
+        "  3  backed up, but for some files that could not be read\n"
+        "  4  verifying found damage\n"
+        "  5  wrong password\n"
+        "  6  the repository is locked\n");
+}
+
+bool makesSense(const QCommandLineParser &parser)
+{
+    const bool isTask = parser.isSet("run")
+        ? !parser.value("source").isEmpty()
+        : parser.isSet("restore") || parser.isSet("snapshots") || parser.isSet("verify");
+    const bool isLimit = !parser.isSet("limit-upload") || parser.value("limit-upload").toInt() > 0;
+    const int folders = parser.isSet("restore") ? 1 : 0;
+    return isTask && isLimit && !parser.value("target").isEmpty()
+        && parser.positionalArguments().size() == folders;
+}
+
+// The line on a terminal that the next one takes the place of.
+void clearProgress()
+{
+    if (showsProgress) {
+        std::fprintf(stderr, "\r%*s\r", width, "");
+    }
+    showsProgress = false;
+}
+
+void showProgress(const QString &text)
+{
+    if (!isTerminal(stderr)) {
+        return;
+    }
+    clearProgress();
+    QString line = text.left(width);
+    for (QChar &character : line) {
+        character = character.isPrint() ? character : QLatin1Char('?');
+    }
+    std::fputs(qPrintable(line), stderr);
+    showsProgress = true;
+}
+
+/// Whether the terminal is to show what is typed, where that can be told to it.
+void setEcho(bool on)
+{
+    QProcess stty;
+    stty.setInputChannelMode(QProcess::ForwardedInputChannel);
+    stty.start("stty", {on ? "echo" : "-echo"});
+    stty.waitForFinished();
+}
+
+QString readPassword()
+{
+    const bool isTyped = isTerminal(stdin);
+    if (isTyped) {
+        setEcho(false);
+        std::fputs(qPrintable(Console::tr("Password of the repository: ")), stderr);
+    }
+    std::string line;
+    std::getline(std::cin, line);
+    if (isTyped) {
+        setEcho(true);
+        std::fputs("\n", stderr);
+    }
+    return QString::fromStdString(line.substr(0, line.find('\r')));
 }
 
 void say(std::FILE *stream, const QString &text)
 {
-    Terminal::clearProgress();
+    clearProgress();
     if (!text.isEmpty()) {
         std::fprintf(stream, "%s\n", qPrintable(text));
     }
@@ -43,80 +150,85 @@ void listSnapshots(const QJsonDocument &message)
     }
 }
 
-void end(const CommandLine &line, const Outcome &outcome)
+void end(const QCommandLineParser &parser, const Outcome &outcome)
 {
     if (!outcome.isGood()) {
         say(stderr, outcome.details);
         say(stderr, outcome.text());
-    } else if (!line.isQuiet) {
+    } else if (!parser.isSet("quiet")) {
         say(stdout, outcome.text());
     }
-    if (outcome.kind == Outcome::NoRepository && line.task == CommandLine::BackUp) {
-        say(stderr, CommandLine::tr("With --init it is made."));
-    } else if (outcome.kind == Outcome::Locked && !line.removesStaleLock) {
-        say(stderr, CommandLine::tr("With --unlock a lock that a dead program left is removed."));
+    if (outcome.kind == Outcome::NoRepository || outcome.kind == Outcome::Locked) {
+        say(stderr,
+            Console::tr("--init makes a repository, --unlock removes a dead program's lock."));
     }
-    QCoreApplication::exit(exitStatus(outcome.kind));
+    QCoreApplication::exit(outcome.exitStatus());
 }
 
-void report(BackupRun *run, const CommandLine &line)
+void report(BackupRun *run, const QCommandLineParser &parser)
 {
-    QObject::connect(run, &BackupRun::progressChanged, [&line](const BackupProgress &progress) {
-        if (!line.isQuiet) {
-            Terminal::showProgress(progress.text());
-        }
-    });
+    if (!parser.isSet("quiet")) {
+        QObject::connect(run, &BackupRun::progressChanged, [](const BackupProgress &progress) {
+            showProgress(progress.text());
+        });
+    }
     QObject::connect(run, &BackupRun::problemFound, [](const QString &text) {
         say(stderr, text);
     });
-    QObject::connect(run, &BackupRun::asked, [&line, run](BackupRun::Question question) {
-        const bool isMissing = question == BackupRun::CreateRepository;
-        run->answer(isMissing ? line.createsRepository : line.removesStaleLock);
+    QObject::connect(run, &BackupRun::asked, [&parser, run](BackupRun::Question question) {
+        run->answer(parser.isSet(question == BackupRun::CreateRepository ? "init" : "unlock"));
     });
-    QObject::connect(run, &BackupRun::finished, [&line](const Outcome &outcome) {
-        end(line, outcome);
+    QObject::connect(run, &BackupRun::finished, [&parser](const Outcome &outcome) {
+        end(parser, outcome);
     });
 }
 
-int work(const CommandLine &line)
+int work(const QCommandLineParser &parser)
 {
-    BackupJob job = line.job;
-    job.password = Terminal::readPassword();
+    BackupJob job;
+    job.source = parser.value("source");
+    job.repository = parser.value("target");
+    job.verify = parser.isSet("verify");
+    job.password = readPassword();
     BackupRun run;
-    report(&run, line);
-    run.setUploadLimit(line.uploadLimit);
+    report(&run, parser);
+    run.setUploadLimit(parser.value("limit-upload").toInt());
     ResticRun listing;
     QObject::connect(&listing, &ResticRun::message, listSnapshots);
-    QObject::connect(&listing, &ResticRun::finished, [&line](const Outcome &outcome) {
-        end(line, outcome);
+    QObject::connect(&listing, &ResticRun::finished, [&parser](const Outcome &outcome) {
+        end(parser, outcome);
     });
-    if (line.task == CommandLine::BackUp) {
+    if (parser.isSet("run")) {
         run.backUp(job);
-    } else if (line.task == CommandLine::Verify) {
-        run.verify(job);
-    } else if (line.task == CommandLine::Restore) {
-        run.restore(job, line.snapshot, line.folder);
-    } else {
+    } else if (parser.isSet("restore")) {
+        run.restore(job, parser.value("restore"), parser.positionalArguments().constFirst());
+    } else if (parser.isSet("snapshots")) {
         listing.start(job.repository, job.password, {"snapshots", "--json"});
+    } else {
+        run.verify(job);
     }
     return QCoreApplication::exec();
 }
 
 } // namespace
 
-int Console::run(const CommandLine &line)
+int Console::run(const QStringList &arguments)
 {
-    if (!line.error.isEmpty()) {
-        say(stderr, line.error);
-        return refusedStatus;
-    }
-    if (line.task == CommandLine::ShowHelp) {
-        say(stdout, CommandLine::helpText());
-        return 0;
-    }
-    if (line.task == CommandLine::ShowVersion) {
+    QCommandLineParser parser;
+    addOptions(&parser);
+    const bool isUnderstood = parser.parse(arguments);
+    if (parser.isSet("help")) {
+        say(stdout, parser.helpText() + '\n' + exitStatusText());
+    } else if (parser.isSet("version")) {
         say(stdout, QCoreApplication::applicationVersion());
-        return 0;
+    } else if (!isUnderstood || !makesSense(parser)) {
+        say(stderr, parser.errorText());
+        say(stderr,
+            Console::tr("Say --target, and --run with --source, --verify, --snapshots, or "
+                        "--restore with a snapshot and a folder. --help tells more."));
+        return 2;
+    } else {
+        return work(parser);
     }
-    return work(line);
+    return 0;
 }

@@ -2,16 +2,18 @@
 #ifndef CONSOLE_H
 #define CONSOLE_H
 
-struct CommandLine;
+#include <QCoreApplication>
 
 /// The program without its window: results go to the standard output, what is wrong, and progress,
 /// to the standard error output.
-namespace Console {
+class Console
+{
+    Q_DECLARE_TR_FUNCTIONS(Console)
 
-/// Returns the exit status, which CommandLine::helpText() explains. Needs an application object
-/// whose event loop is not running.
-int run(const CommandLine &line);
-
-} // namespace Console
+public:
+    /// Does what QCoreApplication::arguments() say. Returns the exit status, which "--help"
+    /// explains. Needs an application object whose event loop is not running.
+    static int run(const QStringList &arguments);
+};
 
 #endif

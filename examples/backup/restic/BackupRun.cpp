@@ -1,116 +1,126 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "BackupRun.h"
 
-#include "Restic.h"
-
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
+#include <QJsonArray>
 #include <QJsonObject>
+#include <QLocale>
 #include <QRegularExpression>
 #include <QTimer>
 
 namespace {
 
-const int waitMilliseconds = 200;
+QStringList backUpArguments(const BackupJob &job, int kibibytesPerSecond)
+{
+    const QString source = Restic::sourcePath(job.source);
+    QStringList result = {"backup", "--json"};
+    if (kibibytesPerSecond > 0) {
+        result += {"--limit-upload", QString::number(kibibytesPerSecond)};
+    }
+    // A repository inside the source would grow by itself with each run.
+    QString repository = Restic::sourcePath(job.repository);
+    if (QFileInfo::exists(repository) && repository != source) {
+        const QRegularExpression special("([*?\\[\\\\])");
+        result += {"--exclude", repository.replace(special, "\\\\1")};
+    }
+    return result << "--" << source;
+}
+
+qint64 number(const QJsonObject &object, const char *key)
+{
+    return static_cast<qint64>(object.value(QLatin1String(key)).toDouble());
+}
+
+QString countText(const QJsonObject &object, const char *key)
+{
+    return QLocale().toString(number(object, key));
+}
 
 } // namespace
+
+QString BackupProgress::text() const
+{
+    return fraction < 0 ? activity : QStringLiteral("%1 %  ").arg(int(fraction * 100)) + activity;
+}
 
 BackupRun::BackupRun(QObject *parent)
     : QObject(parent)
 {
     connect(&m_run, &ResticRun::message, this, &BackupRun::readMessage);
-    connect(&m_run, &ResticRun::textLine, this, &BackupRun::readText);
     connect(&m_run, &ResticRun::problemFound, this, &BackupRun::problemFound);
     connect(&m_run, &ResticRun::finished, this, &BackupRun::endStep);
 }
 
+// restic would refuse what is refused here, or not in words that help.
 bool BackupRun::backUp(const BackupJob &job)
 {
-    return begin(job, BackUp);
+    QList<QStringList> steps = {backUpArguments(job, m_uploadLimit)};
+    if (job.verify) {
+        steps.append(QStringList{"check", "--read-data"});
+    }
+    const bool isThere = QFileInfo::exists(Restic::sourcePath(job.source));
+    return begin(job, steps, isThere ? Outcome::Done : Outcome::NoSource);
 }
 
 bool BackupRun::verify(const BackupJob &job)
 {
-    return begin(job, Verify);
+    return begin(job, {{"check", "--read-data"}}, Outcome::Done);
 }
 
 bool BackupRun::restore(const BackupJob &job, const QString &snapshot, const QString &folder)
 {
-    if (!isRunning()) {
-        m_snapshot = snapshot;
-        m_folder = QDir(Restic::address(folder)).absolutePath();
-    }
-    return begin(job, Restore);
+    const QDir target = QDir(folder).absolutePath();
+    const bool isEmpty
+        = target.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    return begin(job, {{"restore", "--target", target.path(), "--", snapshot}},
+                 isEmpty ? Outcome::Done : Outcome::NotEmpty);
 }
 
-bool BackupRun::begin(const BackupJob &job, Step step)
+bool BackupRun::begin(const BackupJob &job, const QList<QStringList> &steps, Outcome::Kind refusal)
 {
     if (isRunning()) {
         return false;
     }
     m_job = job;
+    m_steps = steps;
     m_asked.clear();
-    m_waitsForAnswer = false;
     m_isCancelled = false;
     m_progress = BackupProgress();
     m_outcome = Outcome();
-    m_step = step;
-    m_outcome.kind = refusal();
-    if (m_outcome.isGood()) {
-        startStep(step);
+    m_unanswered.kind = job.repository.trimmed().isEmpty() ? Outcome::NoRepository : refusal;
+    if (m_unanswered.isGood()) {
+        startStep();
     } else {
-        QTimer::singleShot(0, this, &BackupRun::finish);
+        QTimer::singleShot(0, this, [this] {
+            answer(false);
+        });
     }
     return true;
 }
 
-// What restic would not refuse, or not in words that help.
-Outcome::Kind BackupRun::refusal() const
+QString BackupRun::command() const
 {
-    const QDir::Filters anything
-        = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    if (m_job.repository.trimmed().isEmpty()) {
-        return Outcome::NoRepository;
-    }
-    if (m_step == BackUp && !QFileInfo::exists(Restic::sourcePath(m_job.source))) {
-        return Outcome::NoSource;
-    }
-    if (m_step == Restore && !QDir(m_folder).isEmpty(anything)) {
-        return Outcome::NotEmpty;
-    }
-    return Outcome::Done;
+    return m_steps.constFirst().constFirst();
 }
 
-void BackupRun::startStep(Step step)
+void BackupRun::startStep()
 {
-    m_step = step;
-    m_progress.phase = step == BackUp ? BackupProgress::BackingUp
-        : step == Verify              ? BackupProgress::Verifying
-        : step == Restore             ? BackupProgress::Restoring
-                                      : BackupProgress::Preparing;
+    if (m_steps.isEmpty()) {
+        m_job.password.clear();
+        emit finished(m_outcome);
+        return;
+    }
+    const QHash<QString, QString> activities
+        = {{"check", tr("Verifying")}, {"restore", tr("Restoring")}};
     m_progress.fraction = -1;
+    m_progress.activity = activities.value(command(), tr("Preparing"));
     emit progressChanged(m_progress);
-    m_run.start(m_job.repository, m_job.password, arguments());
-}
-
-QStringList BackupRun::arguments() const
-{
-    switch (m_step) {
-    case BackUp:
-        return Restic::backUpArguments(m_job, m_uploadLimit);
-    case Verify:
-        return {"check", "--read-data"};
-    case Restore:
-        return {"restore", "--target", m_folder, "--", m_snapshot};
-    case Create:
-        return {"init"};
-    case Unlock:
-    case TidyUp:
-        return {"unlock"};
-    case Nothing:
-        break;
+    m_run.start(m_job.repository, m_job.password, m_steps.constFirst());
+    if (m_isCancelled && command() != "unlock") {
+        m_run.cancel();
     }
-    return QStringList();
 }
 
 void BackupRun::readMessage(const QJsonDocument &message)
@@ -118,81 +128,71 @@ void BackupRun::readMessage(const QJsonDocument &message)
     const QJsonObject object = message.object();
     const QString type = object.value("message_type").toString();
     if (type == "status") {
-        m_progress.read(object);
+        m_progress.bytesDone = number(object, "bytes_done");
+        m_progress.fraction = object.value("percent_done").toDouble();
+        m_progress.activity
+            = tr("Backing up: %1 of %2 files, %3 of %4  %5")
+                  .arg(countText(object, "files_done"), countText(object, "total_files"),
+                       sizeText(m_progress.bytesDone), sizeText(number(object, "total_bytes")),
+                       object.value("current_files").toArray().first().toString());
         emit progressChanged(m_progress);
     } else if (type == "summary") {
-        m_outcome.readSummary(object);
-        m_progress.bytesDone = m_outcome.bytesRead;
-    }
-}
-
-// Such as "[0:07] 42.00%  21 / 50 packs"; verifying counts other things before the packs.
-void BackupRun::readText(const QString &line)
-{
-    static const QRegularExpression pattern("([0-9.]+)%");
-    const QRegularExpressionMatch match = pattern.match(line);
-    if (match.hasMatch() && (m_step == Restore || line.contains("packs"))) {
-        m_progress.fraction = match.captured(1).toDouble() / 100;
-        emit progressChanged(m_progress);
+        m_progress.bytesDone = number(object, "total_bytes_processed");
+        m_outcome.snapshot = object.value("snapshot_id").toString();
+        m_outcome.achieved
+            += tr("Snapshot %1: %2 new, %3 changed, %4 unchanged files; %5 read, %6 added.")
+                   .arg(m_outcome.snapshot.left(8), countText(object, "files_new"),
+                        countText(object, "files_changed"), countText(object, "files_unmodified"),
+                        sizeText(m_progress.bytesDone), sizeText(number(object, "data_added")));
     }
 }
 
 void BackupRun::endStep(const Outcome &outcome)
 {
+    m_creation.reset();
     m_outcome.skippedLines += outcome.skippedLines;
-    if (m_step == TidyUp) {
-        finish();
-    } else if (m_step == Create || m_step == Unlock) {
-        m_creation.reset();
-        const bool isThere = m_step == Create && outcome.details.contains("already");
-        outcome.isGood() || isThere ? startStep(m_interrupted) : endAs(outcome);
-    } else if (m_step == Verify && outcome.isGood()) {
-        m_outcome.wasVerified = true;
-        finish();
-    } else if (m_step == BackUp && goesOn(outcome)) {
+    const bool isMadeByOther = command() == "init" && outcome.details.contains("already");
+    if (outcome.isGood() && command() == "check") {
+        m_outcome.achieved += tr("All of the repository was read back: no errors.");
+    } else if (outcome.isGood() && command() == "restore") {
+        m_outcome.achieved += tr("Restored below %1.").arg(m_steps.constFirst().at(2));
+    } else if (outcome.kind == Outcome::Incomplete) {
         m_outcome.kind = outcome.kind;
         m_outcome.details = outcome.details;
-        m_asked.clear();
-        startStep(Verify);
-    } else if (!asks(outcome)) {
-        endAs(outcome);
+    } else if (!outcome.isGood() && command() != "unlock" && !isMadeByOther) {
+        askOrEnd(outcome);
+        return;
     }
+    m_steps.removeFirst();
+    startStep();
 }
 
-bool BackupRun::goesOn(const Outcome &outcome) const
+void BackupRun::askOrEnd(const Outcome &outcome)
 {
-    const bool hasSnapshot = outcome.isGood() || outcome.kind == Outcome::Incomplete;
-    return hasSnapshot && m_job.verify && !m_isCancelled;
-}
-
-bool BackupRun::asks(const Outcome &outcome)
-{
-    const bool isMissing = outcome.kind == Outcome::NoRepository && m_step == BackUp;
+    const bool isMissing = outcome.kind == Outcome::NoRepository && command() == "backup";
     const Question question = isMissing ? CreateRepository : RemoveStaleLock;
-    if ((!isMissing && outcome.kind != Outcome::Locked) || m_asked.contains(question)) {
-        return false;
+    if ((isMissing || outcome.kind == Outcome::Locked) && !m_asked.contains(question)) {
+        m_asked.append(question);
+        m_unanswered = outcome;
+        emit asked(question);
+    } else {
+        end(outcome);
     }
-    m_asked.append(question);
-    m_unanswered = outcome;
-    m_interrupted = m_step;
-    m_waitsForAnswer = true;
-    emit asked(question);
-    return true;
 }
 
 void BackupRun::answer(bool yes)
 {
-    if (!m_waitsForAnswer) {
+    const Outcome unanswered = m_unanswered;
+    m_unanswered = Outcome();
+    if (unanswered.isGood()) {
         return;
     }
-    m_waitsForAnswer = false;
     if (!yes) {
-        endAs(m_unanswered);
-    } else if (m_asked.constLast() == RemoveStaleLock) {
-        startStep(Unlock);
+        end(unanswered);
+    } else if (unanswered.kind == Outcome::Locked) {
+        m_steps.prepend(QStringList("unlock"));
+        startStep();
     } else {
-        m_creation.reset(new QLockFile(Restic::creationLock(m_job.repository)));
-        m_creation->setStaleLockTime(0);
         create();
     }
 }
@@ -200,48 +200,37 @@ void BackupRun::answer(bool yes)
 // restic itself lets two of them make one repository, which is then of no use.
 void BackupRun::create()
 {
-    if (m_isCancelled) {
-        m_outcome.kind = Outcome::Cancelled;
-        finish();
-    } else if (m_creation->tryLock(0)) {
-        startStep(Create);
+    const QString name
+        = QString("tessaline-%1.lock").arg(qHash(Restic::sourcePath(m_job.repository)));
+    m_creation.reset(new QLockFile(QDir::temp().filePath(name)));
+    m_creation->setStaleLockTime(0);
+    if (m_isCancelled || m_creation->tryLock(0)) {
+        m_steps.prepend(QStringList("init"));
+        startStep();
     } else {
-        QTimer::singleShot(waitMilliseconds, this, &BackupRun::create);
+        QTimer::singleShot(200, this, &BackupRun::create);
     }
 }
 
 void BackupRun::cancel()
 {
     m_isCancelled = true;
-    if (m_waitsForAnswer) {
-        m_waitsForAnswer = false;
-        m_outcome.kind = Outcome::Cancelled;
-        finish();
-    } else {
-        m_run.cancel();
+    m_run.cancel();
+    if (!m_unanswered.isGood()) {
+        m_unanswered = Outcome();
+        m_unanswered.kind = Outcome::Cancelled;
+        answer(false);
     }
 }
 
-void BackupRun::endAs(const Outcome &outcome)
+void BackupRun::end(const Outcome &outcome)
 {
     m_outcome.kind = outcome.kind;
     m_outcome.details = outcome.details;
-    if (m_step == Restore && outcome.isGood()) {
-        m_outcome.restoredInto = m_folder;
+    m_steps.clear();
+    if (outcome.kind == Outcome::Cancelled || outcome.kind == Outcome::Crashed) {
+        // Our own restic is gone, but its lock may have stayed.
+        m_steps.append(QStringList("unlock"));
     }
-    // Our own restic is gone, but its lock may have stayed.
-    const bool wasStopped = outcome.kind == Outcome::Cancelled || outcome.kind == Outcome::Crashed;
-    if (wasStopped && (m_step == BackUp || m_step == Verify || m_step == Restore)) {
-        startStep(TidyUp);
-    } else {
-        finish();
-    }
-}
-
-void BackupRun::finish()
-{
-    m_creation.reset();
-    m_step = Nothing;
-    m_job.password.clear();
-    emit finished(m_outcome);
+    startStep();
 }

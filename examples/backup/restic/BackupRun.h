@@ -2,13 +2,25 @@
 #ifndef BACKUPRUN_H
 #define BACKUPRUN_H
 
-#include "BackupJob.h"
-#include "BackupProgress.h"
 #include "ResticRun.h"
 
 #include <QLockFile>
 
 #include <memory>
+
+/// How far a run has come. A plain value.
+struct BackupProgress
+{
+    /// Of 0 to 1; less than 0 while unknown.
+    double fraction = -1;
+    /// Zero but for a backup.
+    qint64 bytesDone = 0;
+    /// With the current file at its end.
+    QString activity;
+
+    /// One line.
+    QString text() const;
+};
 
 /// A backup and its verifying, or a restore: one run of restic after the other, and what goes
 /// between them. One at a time.
@@ -25,7 +37,7 @@ public:
 
     bool isRunning() const
     {
-        return m_step != Nothing;
+        return !m_steps.isEmpty();
     }
     /// By the backup under way, or the last one.
     qint64 bytesDone() const
@@ -43,8 +55,7 @@ public:
     bool backUp(const BackupJob &job);
     /// Reads all of the repository back.
     bool verify(const BackupJob &job);
-    /// Puts the snapshot's files, with their full paths, below a folder, which must be empty or
-    /// new.
+    /// Puts the snapshot's files, with their full paths, below an empty or new folder.
     bool restore(const BackupJob &job, const QString &snapshot, const QString &folder);
 
 public slots:
@@ -60,36 +71,27 @@ signals:
     void finished(const Outcome &outcome);
 
 private:
-    enum Step { Nothing, BackUp, Verify, Restore, Create, Unlock, TidyUp };
-
-    bool begin(const BackupJob &job, Step step);
-    void startStep(Step step);
-    Outcome::Kind refusal() const;
-    QStringList arguments() const;
+    bool begin(const BackupJob &job, const QList<QStringList> &steps, Outcome::Kind refusal);
+    QString command() const;
+    void startStep();
     void readMessage(const QJsonDocument &message);
-    void readText(const QString &line);
-    void create();
     void endStep(const Outcome &outcome);
-    bool goesOn(const Outcome &outcome) const;
-    bool asks(const Outcome &outcome);
-    void endAs(const Outcome &outcome);
-    void finish();
+    void askOrEnd(const Outcome &outcome);
+    void create();
+    void end(const Outcome &outcome);
 
     ResticRun m_run;
     BackupJob m_job;
-    QString m_snapshot;
-    QString m_folder;
-    Step m_step = Nothing;
-    /// What is gone on with after an answer.
-    Step m_interrupted = Nothing;
+    /// restic's arguments. The first step is under way, or waits for an answer.
+    QList<QStringList> m_steps;
     QList<Question> m_asked;
+    /// How the run ends if the answer is no; good if nothing is asked.
+    Outcome m_unanswered;
     /// Held while the repository is made.
     std::unique_ptr<QLockFile> m_creation;
-    bool m_waitsForAnswer = false;
     bool m_isCancelled = false;
     int m_uploadLimit = 0;
     BackupProgress m_progress;
-    Outcome m_unanswered;
     Outcome m_outcome;
 };
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "JobStore.h"
 
-#include <QDir>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -12,27 +11,23 @@ JobStore::JobStore(const QString &filePath)
 
 QString JobStore::defaultFilePath()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return QDir(folder).filePath("tessaline/backup.ini");
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+        + "/tessaline/backup.ini";
 }
 
 QList<BackupJob> JobStore::load() const
 {
     QSettings settings(m_filePath, QSettings::IniFormat);
-    QList<BackupJob> jobs;
-    // Version 1.0 wrote no count.
     settings.beginGroup("jobs");
-    const int count = int(settings.childGroups().size());
-    settings.endGroup();
-    settings.beginReadArray("jobs");
-    for (int number = 0; number < count; ++number) {
-        settings.setArrayIndex(number);
+    QList<BackupJob> jobs;
+    for (int number = 1; number <= settings.childGroups().size(); ++number) {
+        const QString group = QString::number(number);
         BackupJob job;
-        job.name = settings.value("name").toString();
-        job.source = settings.value("source").toString();
-        job.repository = settings.value("repository").toString();
-        job.verify = settings.value("verify").toBool();
-        if (!job.name.isEmpty() || !job.source.isEmpty() || !job.repository.isEmpty()) {
+        job.name = settings.value(group + "/name").toString();
+        job.source = settings.value(group + "/source").toString();
+        job.repository = settings.value(group + "/repository").toString();
+        job.verify = settings.value(group + "/verify").toBool();
+        if (!(job.name + job.source + job.repository).isEmpty()) {
             jobs.append(job);
         }
     }
@@ -43,15 +38,15 @@ bool JobStore::save(const QList<BackupJob> &jobs) const
 {
     QSettings settings(m_filePath, QSettings::IniFormat);
     settings.remove("jobs");
-    settings.beginWriteArray("jobs", int(jobs.size()));
-    for (int number = 0; number < jobs.size(); ++number) {
-        settings.setArrayIndex(number);
-        settings.setValue("name", jobs.at(number).name);
-        settings.setValue("source", jobs.at(number).source);
-        settings.setValue("repository", jobs.at(number).repository);
-        settings.setValue("verify", jobs.at(number).verify);
+    settings.beginGroup("jobs");
+    for (int number = 1; number <= jobs.size(); ++number) {
+        const QString group = QString::number(number);
+        const BackupJob &job = jobs.at(number - 1);
+        settings.setValue(group + "/name", job.name);
+        settings.setValue(group + "/source", job.source);
+        settings.setValue(group + "/repository", job.repository);
+        settings.setValue(group + "/verify", job.verify);
     }
-    settings.endArray();
     settings.sync();
     // A format error is about what was in the file before, and has been written over.
     return settings.status() != QSettings::AccessError;

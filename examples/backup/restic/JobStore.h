@@ -2,9 +2,22 @@
 #ifndef JOBSTORE_H
 #define JOBSTORE_H
 
-#include "BackupJob.h"
-
 #include <QList>
+#include <QString>
+
+/// What the user wants backed up where. A plain value.
+struct BackupJob
+{
+    QString name;
+    /// A folder.
+    QString source;
+    /// A folder or any address that restic takes, such as "sftp:host:/path".
+    QString repository;
+    /// Lives in memory only; JobStore never writes it.
+    QString password;
+    /// Whether a backup is followed by reading everything back.
+    bool verify = false;
+};
 
 /// Keeps the jobs, without their passwords, in an INI file: an array [jobs]. The file may also have
 /// a line "restic=/path/of/the/program" at its top.

@@ -3,9 +3,11 @@
 #define OUTCOME_H
 
 #include <QCoreApplication>
-#include <QJsonObject>
 #include <QMetaType>
-#include <QString>
+#include <QStringList>
+
+/// Bytes in the units of the chart, "1.5 MB" of 1024 KB, with the user's decimal point.
+QString sizeText(qint64 bytes);
 
 /// How a run of restic, or a chain of such runs, ended. A plain value.
 struct Outcome
@@ -34,17 +36,10 @@ public:
     Kind kind = Done;
     /// restic's own words, in English: the last lines of its error output.
     QString details;
-    /// Id of the snapshot made, if any.
+    /// The id, if one was made.
     QString snapshot;
-    /// What was restored is below this folder; empty if nothing was.
-    QString restoredInto;
-    bool wasVerified = false;
-    qint64 newFiles = 0;
-    qint64 changedFiles = 0;
-    qint64 unchangedFiles = 0;
-    /// The size of the source, and what the repository took in.
-    qint64 bytesRead = 0;
-    qint64 bytesAdded = 0;
+    /// A sentence for each thing done.
+    QStringList achieved;
     /// Lines of restic's output that were no message.
     int skippedLines = 0;
 
@@ -54,9 +49,9 @@ public:
     }
     /// A sentence or two: what happened, and what to do.
     QString text() const;
+    /// The program's own, without a window.
+    int exitStatus() const;
 
-    /// From a message of the type "summary".
-    void readSummary(const QJsonObject &summary);
     /// What restic's exit status and its error output mean.
     static Kind kindOf(int exitStatus, const QString &errors);
 };

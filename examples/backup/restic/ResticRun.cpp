@@ -1,36 +1,55 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "ResticRun.h"
 
-#include "Restic.h"
-
+#include <QDir>
+#include <QFileInfo>
 #include <QJsonObject>
+#include <QSettings>
 #include <QTimer>
+#include <QVersionNumber>
 
 namespace {
 
-// For restic to remove its lock, maybe over a slow line.
-const int patienceMilliseconds = 10000;
 // A line that never ends must not fill the memory.
 const qint64 longestLine = 16 * 1024 * 1024;
-const int keptErrors = 20;
 
-/// Programs that were new enough. Others are asked again: the user may install another version.
-QStringList *goodPrograms()
+// With "~" for the home folder.
+QString address(const QString &typed)
 {
-    static QStringList programs;
-    return &programs;
-}
-
-// Of a file that could not be read. Versions before 0.16 say why in numbers of the system.
-QString problemText(const QJsonObject &message)
-{
-    const QJsonObject error = message.value("error").toObject();
-    const QString reason = error.value("message").toString();
-    return message.value("item").toString() + ": "
-        + (reason.isEmpty() ? ResticRun::tr("cannot be read") : reason);
+    const bool isAtHome = typed == "~" || typed.startsWith("~/");
+    return isAtHome ? QDir::homePath() + typed.mid(1) : typed;
 }
 
 } // namespace
+
+bool Restic::isNewEnough(const QString &version)
+{
+    const QVersionNumber number = QVersionNumber::fromString(version.section(' ', 1, 1));
+    return version.startsWith("restic ") && number >= QVersionNumber(0, 14);
+}
+
+QProcessEnvironment Restic::environment(const QString &repository)
+{
+    QProcessEnvironment result = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"RESTIC_PASSWORD", "RESTIC_PASSWORD_FILE", "RESTIC_PASSWORD_COMMAND",
+                             "RESTIC_REPOSITORY_FILE"}) {
+        result.remove(QLatin1String(name));
+    }
+    // Not as an argument: all users see those, and an address may have a server's password in it.
+    result.insert("RESTIC_REPOSITORY", address(repository));
+    result.insert("RESTIC_PROGRESS_FPS", "4");
+    // Without a place for its cache, as at the start of a system, restic 0.18 does not work.
+    if (!result.contains("HOME") && !result.contains("RESTIC_CACHE_DIR")) {
+        result.insert("RESTIC_CACHE_DIR", QDir::temp().filePath("restic-cache"));
+    }
+    return result;
+}
+
+QString Restic::sourcePath(const QString &typed)
+{
+    const QFileInfo source(address(typed));
+    return source.exists() ? source.canonicalFilePath() : source.absoluteFilePath();
+}
 
 ResticRun::ResticRun(QObject *parent)
     : QObject(parent)
@@ -46,21 +65,16 @@ ResticRun::~ResticRun()
     }
 }
 
-void ResticRun::setOutputFile(const QString &path)
-{
-    m_outputFile = path;
-}
-
 void ResticRun::start(const QString &repository, const QString &password,
-                      const QStringList &arguments)
+                      const QStringList &arguments, const QString &outputFile)
 {
-    m_program = Restic::program();
     m_repository = repository;
     m_password = password;
     m_arguments = arguments;
+    m_outputFile = outputFile;
     m_skippedLines = 0;
     m_isCancelled = false;
-    m_asksVersion = !goodPrograms()->contains(m_program);
+    m_asksVersion = true;
     QTimer::singleShot(0, this, &ResticRun::launch);
 }
 
@@ -69,7 +83,8 @@ void ResticRun::cancel()
     m_isCancelled = true;
     if (m_process) {
         m_process->terminate();
-        QTimer::singleShot(patienceMilliseconds, m_process, &QProcess::kill);
+        // It removes its lock first, maybe over a slow line.
+        QTimer::singleShot(10000, m_process, &QProcess::kill);
     }
 }
 
@@ -82,9 +97,7 @@ void ResticRun::launch()
     m_lastErrors.clear();
     m_process = new QProcess(this);
     m_process->setProcessEnvironment(Restic::environment(m_repository));
-    if (!m_asksVersion && !m_outputFile.isEmpty()) {
-        m_process->setStandardOutputFile(m_outputFile);
-    }
+    m_process->setStandardOutputFile(m_asksVersion ? QString() : m_outputFile);
     connect(m_process, &QProcess::readyReadStandardOutput, this, [this] {
         readChannel(QProcess::StandardOutput);
     });
@@ -97,8 +110,9 @@ void ResticRun::launch()
             QTimer::singleShot(0, this, &ResticRun::end);
         }
     });
-    m_process->start(
-        m_program, m_asksVersion ? QStringList{"version"} : Restic::globalOptions() + m_arguments);
+    const QSettings settings(JobStore::defaultFilePath(), QSettings::IniFormat);
+    m_process->start(settings.value("restic", "restic").toString(),
+                     m_asksVersion ? QStringList("version") : m_arguments);
     if (!m_asksVersion && m_process->state() != QProcess::NotRunning) {
         m_process->write(m_password.toUtf8() + '\n');
     }
@@ -123,9 +137,8 @@ void ResticRun::readLine(const QByteArray &line)
         m_lastErrors.append(QString::fromUtf8(line));
     } else if (!document.isNull()) {
         emit message(document);
-    } else if (!m_arguments.contains("--json")) {
-        emit textLine(QString::fromUtf8(line));
-    } else if (!line.isEmpty() && !line.startsWith("reading repository password")) {
+    } else if (m_arguments.contains("--json") && !line.isEmpty()
+               && !line.startsWith("reading repository password")) {
         ++m_skippedLines;
     }
 }
@@ -133,14 +146,14 @@ void ResticRun::readLine(const QByteArray &line)
 void ResticRun::readErrorLine(const QByteArray &line)
 {
     const QJsonObject message = QJsonDocument::fromJson(line).object();
-    QString text = QString::fromUtf8(line);
+    QString text = message.value("message").toString(QString::fromUtf8(line));
     if (message.contains("error")) {
-        text = problemText(message);
+        // Versions before 0.16 say why in numbers of the system.
+        const QJsonValue reason = message.value("error").toObject().value("message");
+        text = message.value("item").toString() + ": " + reason.toString(tr("cannot be read"));
         emit problemFound(text);
-    } else if (message.contains("message")) {
-        text = message.value("message").toString();
     }
-    m_lastErrors = (m_lastErrors << text).mid(m_lastErrors.size() - keptErrors);
+    m_lastErrors = (m_lastErrors << text).mid(m_lastErrors.size() - 20);
 }
 
 void ResticRun::end()
@@ -150,13 +163,9 @@ void ResticRun::end()
     const Outcome::Kind kind = kindOfEnd();
     m_process->deleteLater();
     m_process = nullptr;
-    if (m_asksVersion && kind == Outcome::Done) {
-        m_asksVersion = false;
-        goodPrograms()->append(m_program);
-        launch();
-    } else {
-        finish(kind);
-    }
+    const bool goesOn = m_asksVersion && kind == Outcome::Done;
+    m_asksVersion = false;
+    goesOn ? launch() : finish(kind);
 }
 
 Outcome::Kind ResticRun::kindOfEnd() const

@@ -2,12 +2,25 @@
 #ifndef RESTICRUN_H
 #define RESTICRUN_H
 
+#include "JobStore.h"
 #include "Outcome.h"
 
 #include <QJsonDocument>
 #include <QObject>
 #include <QProcess>
 #include <QStringList>
+
+/// How the program that does the work is spoken to.
+namespace Restic {
+
+/// Of what "restic version" prints. Older ones call a restore done that has left files out.
+bool isNewEnough(const QString &version);
+/// This process's environment, without what would beat the password from the standard input.
+QProcessEnvironment environment(const QString &repository);
+/// An absolute path without links, which restic would store in place of what they lead to.
+QString sourcePath(const QString &typed);
+
+} // namespace Restic
 
 /// One run of restic at a time: the password goes to its standard input, messages come from its
 /// standard output. The program's version is looked at first.
@@ -20,11 +33,10 @@ public:
     /// Kills what is still running.
     ~ResticRun() override;
 
-    /// Writes the standard output into a file instead of announcing it, for long lists.
-    void setOutputFile(const QString &path);
     /// finished() always follows, never from within this call. Not while a run is under way. With
-    /// "--json" among the arguments what is no JSON is counted, else it is announced.
-    void start(const QString &repository, const QString &password, const QStringList &arguments);
+    /// an output file the standard output goes there.
+    void start(const QString &repository, const QString &password, const QStringList &arguments,
+               const QString &outputFile = QString());
 
 public slots:
     /// Asks restic to end, and kills it if it does not.
@@ -33,8 +45,6 @@ public slots:
 signals:
     /// One line: an object or an array.
     void message(const QJsonDocument &message);
-    /// A line that is no JSON, where none was asked for.
-    void textLine(const QString &line);
     /// A file that could not be read; the run goes on.
     void problemFound(const QString &text);
     void finished(const Outcome &outcome);
@@ -49,7 +59,6 @@ private:
     void finish(Outcome::Kind kind);
 
     QProcess *m_process = nullptr;
-    QString m_program;
     QString m_repository;
     QString m_password;
     QStringList m_arguments;

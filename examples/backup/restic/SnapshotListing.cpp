@@ -1,13 +1,56 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "SnapshotListing.h"
 
+#include <QJsonArray>
+#include <QJsonObject>
+
 namespace {
 
-const int waitMilliseconds = 50;
 // So few that a window goes on answering in between.
 const int linesAtOnce = 500;
 
+QString textOf(const QJsonObject &object, const char *key)
+{
+    return object.value(QLatin1String(key)).toString();
+}
+
+// restic writes nanoseconds and any offset.
+QDateTime timeOf(const QJsonObject &object, const char *key)
+{
+    return QDateTime::fromString(textOf(object, key), Qt::ISODateWithMs).toLocalTime();
+}
+
 } // namespace
+
+QList<Snapshot> Snapshot::allIn(const QJsonDocument &message)
+{
+    QList<Snapshot> snapshots;
+    const QJsonArray array = message.array();
+    for (const QJsonValue &value : array) {
+        const QJsonObject object = value.toObject();
+        Snapshot snapshot;
+        snapshot.id = textOf(object, "id");
+        snapshot.shortId = textOf(object, "short_id");
+        snapshot.time = timeOf(object, "time");
+        snapshot.host = textOf(object, "hostname");
+        snapshot.paths = object.value("paths").toVariant().toStringList();
+        if (!snapshot.id.isEmpty()) {
+            snapshots.append(snapshot);
+        }
+    }
+    return snapshots;
+}
+
+bool SnapshotFile::read(const QByteArray &line, SnapshotFile *file)
+{
+    const QJsonObject object = QJsonDocument::fromJson(line).object();
+    file->path = textOf(object, "path");
+    file->type = textOf(object, "type");
+    file->permissions = textOf(object, "permissions");
+    file->size = static_cast<qint64>(object.value("size").toDouble());
+    file->modified = timeOf(object, "mtime");
+    return textOf(object, "struct_type") == "node" && !file->path.isEmpty();
+}
 
 SnapshotListing::SnapshotListing(QObject *parent)
     : QObject(parent)
@@ -31,8 +74,7 @@ void SnapshotListing::open(const BackupJob &job, const QString &snapshot)
         m_outcome = outcome;
         m_isWritten = true;
     });
-    m_run->setOutputFile(m_file.fileName());
-    m_run->start(job.repository, job.password, {"ls", "--json", "--", snapshot});
+    m_run->start(job.repository, job.password, {"ls", "--json", "--", snapshot}, m_file.fileName());
 }
 
 void SnapshotListing::requestPage(int count)
@@ -44,42 +86,24 @@ void SnapshotListing::requestPage(int count)
 void SnapshotListing::readOn()
 {
     const bool wasWritten = m_isWritten;
-    const bool mayHaveMore = readLines();
-    if (m_files.size() > m_pageSize || (wasWritten && !mayHaveMore)) {
-        deliver();
-    } else {
-        m_timer.start(mayHaveMore ? 0 : waitMilliseconds);
-    }
-}
-
-// False at what is, for now, the end of the file.
-bool SnapshotListing::readLines()
-{
-    if (!m_file.isOpen() && !m_file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    for (int count = 0; count < linesAtOnce && m_files.size() <= m_pageSize; ++count) {
+    bool isAtEnd = !m_file.isOpen() && !m_file.open(QIODevice::ReadOnly);
+    for (int line = 0; line < linesAtOnce && !isAtEnd && m_files.size() <= m_pageSize; ++line) {
         m_unfinishedLine += m_file.readLine();
-        if (!m_unfinishedLine.endsWith('\n')) {
-            return false;
-        }
+        isAtEnd = !m_unfinishedLine.endsWith('\n');
         SnapshotFile file;
-        if (SnapshotFile::read(m_unfinishedLine, &file)) {
+        if (!isAtEnd && SnapshotFile::read(m_unfinishedLine, &file)) {
             m_files.append(file);
         }
-        m_unfinishedLine.clear();
+        m_unfinishedLine = isAtEnd ? m_unfinishedLine : QByteArray();
     }
-    return true;
-}
-
-void SnapshotListing::deliver()
-{
     const bool isLast = m_files.size() <= m_pageSize;
-    if (isLast && !m_outcome.isGood()) {
+    if (isLast && !(wasWritten && isAtEnd)) {
+        m_timer.start(isAtEnd ? 50 : 0); // the end, for now
+    } else if (isLast && !m_outcome.isGood()) {
         emit failed(m_outcome);
-        return;
+    } else {
+        const QList<SnapshotFile> page = m_files.mid(0, m_pageSize);
+        m_files = m_files.mid(m_pageSize);
+        emit pageRead(page, isLast);
     }
-    const QList<SnapshotFile> page = m_files.mid(0, m_pageSize);
-    m_files = m_files.mid(m_pageSize);
-    emit pageRead(page, isLast);
 }

@@ -2,15 +2,44 @@
 #ifndef SNAPSHOTLISTING_H
 #define SNAPSHOTLISTING_H
 
-#include "BackupJob.h"
+#include "JobStore.h"
 #include "ResticRun.h"
-#include "Snapshot.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTimer>
 
 #include <memory>
+
+/// A state of some folders as it was stored once.
+struct Snapshot
+{
+    QString id;
+    QString shortId;
+    QDateTime time;
+    QString host;
+    QStringList paths;
+
+    /// From the message of "snapshots --json", oldest first; what is none is left out.
+    static QList<Snapshot> allIn(const QJsonDocument &message);
+};
+
+/// A file, folder or link in a snapshot.
+struct SnapshotFile
+{
+    /// Names that are not UTF-8 show replacement characters; they are restored as they were.
+    QString path;
+    /// "file", "dir", "symlink", ...
+    QString type;
+    /// Such as "drwxr-xr-x".
+    QString permissions;
+    qint64 size = 0;
+    QDateTime modified;
+
+    /// From a line of "ls --json"; false if it tells of no file.
+    static bool read(const QByteArray &line, SnapshotFile *file);
+};
 
 /// The files of a snapshot, page by page. restic writes all of them into a temporary file, at its
 /// own speed; no more than a page is in memory.
@@ -33,8 +62,6 @@ signals:
 
 private:
     void readOn();
-    bool readLines();
-    void deliver();
 
     QTemporaryDir m_folder;
     QFile m_file;

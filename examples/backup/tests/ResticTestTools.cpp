@@ -2,7 +2,6 @@
 #include "ResticTestTools.h"
 
 #include "JobStore.h"
-#include "Restic.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -230,7 +229,7 @@ void record(BackupRun *run, Record *record, bool yes)
         run->answer(yes);
     });
     QObject::connect(run, &BackupRun::progressChanged, [=](const BackupProgress &progress) {
-        record->phases |= 1 << progress.phase;
+        record->progress.append(progress.text());
     });
     QObject::connect(run, &BackupRun::problemFound, [=](const QString &problem) {
         record->problems.append(problem);

@@ -13,7 +13,7 @@ struct Record
     Outcome outcome;
     QList<BackupRun::Question> questions;
     QStringList problems;
-    int phases = 0; ///< One bit for each phase seen.
+    QStringList progress;
     bool hasFinished = false;
 };
 

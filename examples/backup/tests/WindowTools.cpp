@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "WindowTools.h"
 
-#include <QApplication>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRandomGenerator>
-#include <QTimer>
 #include <QtTest>
 
 namespace {
@@ -147,11 +146,10 @@ void Window::backUp(int row) const
 {
     typePassword(row, QStringLiteral("secret"));
     QSignalSpy finished(run(), &BackupRun::finished);
-    click(row, JobModel::Run);
-    QTRY_VERIFY_WITH_TIMEOUT(finished.count() > 0 || question(), 60000);
-    if (question()) {
-        answer(QMessageBox::Yes);
+    if (!QFile::exists(path(QStringLiteral("repository/config")))) {
+        answerNextQuestion(QMessageBox::Yes);
     }
+    click(row, JobModel::Run);
     QTRY_COMPARE_WITH_TIMEOUT(int(finished.count()), 1, 60000);
     QVERIFY(finished.at(0).at(0).value<Outcome>().isGood());
 }
@@ -160,37 +158,35 @@ void Window::startLongRun() const
 {
     typePassword(1, QStringLiteral("secret"));
     spinBox()->setValue(50);
+    answerNextQuestion(QMessageBox::Yes);
     click(1, JobModel::Run);
-    QTRY_VERIFY_WITH_TIMEOUT(question(), 60000);
-    answer(QMessageBox::Yes);
     QTRY_VERIFY_WITH_TIMEOUT(run()->bytesDone() > 0, 60000);
 }
 
-QMessageBox *question()
+void answerNextQuestion(QMessageBox::StandardButton button)
 {
-    return qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    inNext<QMessageBox>([button](QMessageBox *box) {
+        QTest::mouseClick(box->button(button), Qt::LeftButton);
+    });
 }
 
-void answer(QMessageBox::StandardButton button)
+void typeInNextDialog(const QString &password)
 {
-    QTest::mouseClick(question()->button(button), Qt::LeftButton);
+    inNext<QInputDialog>([password](QInputDialog *dialog) {
+        QLineEdit *field = dialog->findChild<QLineEdit *>();
+        QCOMPARE(field->echoMode(), QLineEdit::Password);
+        QTest::keyClicks(field, password);
+        QTest::keyClick(field, Qt::Key_Return);
+    });
 }
 
 void chooseInNextDialog(const QString &folder)
 {
-    QTimer *timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, folder] {
-        QFileDialog *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        if (!dialog) {
-            return;
-        }
-        timer->stop();
-        timer->deleteLater();
+    inNext<QFileDialog>([folder](QFileDialog *dialog) {
         dialog->findChild<QLineEdit *>()->setText(folder);
         QPushButton *open = dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Open);
         QTest::mouseClick(open, Qt::LeftButton);
     });
-    timer->start(10);
 }
 
 int runTests(QObject *tests, int argc, char **argv)

@@ -10,10 +10,13 @@
 #include <EditableTableView.h>
 #include <SpinBox.h>
 
+#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTimer>
 
+#include <functional>
 #include <memory>
 
 /// The program's window over two jobs in a temporary folder. "Letters" has two files, "Numbers" so
@@ -65,10 +68,22 @@ private:
     std::unique_ptr<MainWindow> m_window;
 };
 
-/// The question that is asked on the window, or null.
-QMessageBox *question();
-void answer(QMessageBox::StandardButton button);
-/// What is done in the next dialog for a folder.
+/// What is done in the next dialog of a kind, which the program waits for.
+template <class Dialog> void inNext(const std::function<void(Dialog *)> &act)
+{
+    QTimer *timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, act] {
+        if (Dialog *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget())) {
+            timer->stop();
+            timer->deleteLater();
+            act(dialog);
+        }
+    });
+    timer->start(10);
+}
+
+void answerNextQuestion(QMessageBox::StandardButton button);
+void typeInNextDialog(const QString &password);
 void chooseInNextDialog(const QString &folder);
 
 /// Runs the tests without a display.

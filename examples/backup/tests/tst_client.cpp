@@ -27,6 +27,9 @@ private slots:
     void backsUpVerifiesListsAndRestores();
     void exitStatusTellsWhatHappened_data();
     void exitStatusTellsWhatHappened();
+    void refusesWhatMakesNoSense_data();
+    void refusesWhatMakesNoSense();
+    void theHelpNamesOptionsAndExitStatus();
     void incompleteBackupsEndWithThree();
     void damageEndsWithFour();
     void aLiveLockEndsWithSix();
@@ -126,6 +129,52 @@ void tst_Client::exitStatusTellsWhatHappened()
     QCOMPARE(m_client->run(arguments), status);
     QCOMPARE(m_client->errors.isEmpty(), status == 0);
     QCOMPARE(m_client->output.isEmpty(), status != 0);
+}
+
+void tst_Client::refusesWhatMakesNoSense_data()
+{
+    QTest::addColumn<QString>("line");
+    for (const char *line : {"--frobnicate",
+                             "stray",
+                             "--source",
+                             "--run",
+                             "--run --source s",
+                             "--run --target t",
+                             "--verify",
+                             "--snapshots",
+                             "--restore id f",
+                             "--target t --restore id",
+                             "--target t --restore id f stray",
+                             "--target t --snapshots stray",
+                             "--source s --target t",
+                             "--init",
+                             "--quiet",
+                             "--source s --target t --run --limit-upload fast",
+                             "--source s --target t --run --limit-upload 0",
+                             "--source s --target t --run --limit-upload -5",
+                             "--source= --target t --run",
+                             "--source s --target= --run"}) {
+        QTest::newRow(line) << QString::fromLatin1(line);
+    }
+}
+
+void tst_Client::refusesWhatMakesNoSense()
+{
+    QFETCH(QString, line);
+    QCOMPARE(m_client->run(line.split(QLatin1Char(' '))), 2);
+    QVERIFY(m_client->errors.contains("--help"));
+    QCOMPARE(m_client->output, QByteArray());
+}
+
+void tst_Client::theHelpNamesOptionsAndExitStatus()
+{
+    QCOMPARE(m_client->run({QStringLiteral("--help")}), 0);
+    for (const char *option :
+         {"--source", "--target", "--run", "--verify", "--restore", "--snapshots", "--init",
+          "--unlock", "--limit-upload", "--quiet", "--pictures", "--version", "--help",
+          "Exit status", "standard input"}) {
+        QVERIFY2(m_client->output.contains(option), option);
+    }
 }
 
 void tst_Client::incompleteBackupsEndWithThree()

@@ -48,11 +48,10 @@ void tst_MainWindow::goesOnRunningWhenClosingIsDeclined()
     NEEDS_RESTIC()
     const Window window;
     window.startLongRun();
-    window->close();
-    QVERIFY(question());
     QSignalSpy finished(window.run(), &BackupRun::finished);
+    answerNextQuestion(QMessageBox::No);
 
-    answer(QMessageBox::No);
+    window->close();
 
     QVERIFY(!finished.wait(3000));
     QVERIFY(window->isVisible());
@@ -65,10 +64,9 @@ void tst_MainWindow::cancelsTheRunAndClosesIfTheUserAgrees()
     NEEDS_RESTIC()
     const Window window;
     window.startLongRun();
-    window->close();
-    QVERIFY(question());
+    answerNextQuestion(QMessageBox::Yes);
 
-    answer(QMessageBox::Yes);
+    window->close();
 
     QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), 60000);
     QVERIFY(!window.run()->isRunning());
@@ -102,6 +100,7 @@ void tst_MainWindow::showsTheThroughput()
     const Window window;
     window.showPage(2);
     QLabel *now = window.find<QTabWidget>()->widget(2)->findChild<QLabel *>();
+    answerNextQuestion(QMessageBox::No);
 
     window.run()->backUp(window.jobs()->job(1));
 
@@ -186,12 +185,17 @@ void tst_MainWindow::speaksALanguage()
         QSKIP("Built without translations.");
     }
     const Window window;
+    QString yes;
+    inNext<QMessageBox>([&yes](QMessageBox *box) {
+        yes = box->button(QMessageBox::Yes)->text();
+        box->reject();
+    });
+
     window.click(0, JobModel::Remove);
 
     QTEST(window.runButton(0)->text(), "run");
     QTEST(FileListTableView::tr("Common::Next"), "next");
-    QVERIFY(question());
-    QTEST(question()->button(QMessageBox::Yes)->text(), "yes");
+    QTEST(yes, "yes");
 }
 
 void tst_MainWindow::isTranslatedCompletely_data()

@@ -81,9 +81,9 @@ void WindowLatency::measure()
     }
     window.typePassword(0, QStringLiteral("secret"));
     window.spinBox()->setValue(0);
+    answerNextQuestion(QMessageBox::Yes);
     window.click(0, JobModel::Run);
-    QTRY_VERIFY_WITH_TIMEOUT(question(), 60000);
-    answer(QMessageBox::Yes);
+    QTRY_VERIFY_WITH_TIMEOUT(window.run()->bytesDone() > 0, 60000);
 
     Probe probe;
     QTabWidget *pages = window.find<QTabWidget>();

@@ -2,30 +2,34 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>BackupProgress</name>
-    <message>
-        <source>Backing up: %1 of %2 files, %3 of %4  %5</source>
-        <translation>Sichert: %1 von %2 Dateien, %3 von %4  %5</translation>
-    </message>
+    <name>BackupRun</name>
     <message>
         <source>Verifying</source>
         <translation>Prüft</translation>
-    </message>
-    <message>
-        <source>Verifying: %1 %</source>
-        <translation>Prüft: %1 %</translation>
     </message>
     <message>
         <source>Restoring</source>
         <translation>Stellt wieder her</translation>
     </message>
     <message>
-        <source>Restoring: %1 %</source>
-        <translation>Stellt wieder her: %1 %</translation>
-    </message>
-    <message>
         <source>Preparing</source>
         <translation>Bereitet vor</translation>
+    </message>
+    <message>
+        <source>Backing up: %1 of %2 files, %3 of %4  %5</source>
+        <translation>Sichert: %1 von %2 Dateien, %3 von %4  %5</translation>
+    </message>
+    <message>
+        <source>Snapshot %1: %2 new, %3 changed, %4 unchanged files; %5 read, %6 added.</source>
+        <translation>Snapshot %1: %2 neue, %3 geänderte, %4 unveränderte Dateien; %5 gelesen, %6 hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>All of the repository was read back: no errors.</source>
+        <translation>Das ganze Repository wurde zurückgelesen: keine Fehler.</translation>
+    </message>
+    <message>
+        <source>Restored below %1.</source>
+        <translation>Wiederhergestellt unter %1.</translation>
     </message>
 </context>
 <context>
@@ -36,29 +40,7 @@
     </message>
 </context>
 <context>
-    <name>CommandLine</name>
-    <message>
-        <source>The password is the first line of the standard input; on a terminal it is asked for.
-Exit status:
-  0  done
-  1  failed
-  2  the arguments make no sense, or something is missing: restic, source, repository, password
-  3  backed up, but for some files that could not be read
-  4  verifying found damage
-  5  wrong password
-  6  the repository is locked
-</source>
-        <translation>Das Passwort ist die erste Zeile der Standardeingabe; auf einem Terminal wird danach gefragt.
-Endstatus:
-  0  fertig
-  1  gescheitert
-  2  die Argumente ergeben keinen Sinn, oder es fehlt etwas: restic, Quelle, Repository, Passwort
-  3  gesichert bis auf einige Dateien, die nicht gelesen werden konnten
-  4  beim Prüfen wurden Schäden gefunden
-  5  falsches Passwort
-  6  das Repository ist gesperrt
-</translation>
-    </message>
+    <name>Console</name>
     <message>
         <source>Backups, by restic.</source>
         <translation>Sicherungen mit restic.</translation>
@@ -108,44 +90,38 @@ Endstatus:
         <translation>Bilder des Fensters im Ordner FOLDER ablegen.</translation>
     </message>
     <message>
-        <source>Show the version.</source>
-        <translation>Die Version zeigen.</translation>
+        <source>The password is the first line of the standard input; on a terminal it is asked for.
+Exit status:
+  0  done
+  1  failed
+  2  the arguments make no sense, or something is missing: restic, source, repository, password
+  3  backed up, but for some files that could not be read
+  4  verifying found damage
+  5  wrong password
+  6  the repository is locked
+</source>
+        <translation>Das Passwort ist die erste Zeile der Standardeingabe; auf einem Terminal wird danach gefragt.
+Endstatus:
+  0  fertig
+  1  gescheitert
+  2  die Argumente ergeben keinen Sinn, oder es fehlt etwas: restic, Quelle, Repository, Passwort
+  3  gesichert bis auf einige Dateien, die nicht gelesen werden konnten
+  4  beim Prüfen wurden Schäden gefunden
+  5  falsches Passwort
+  6  das Repository ist gesperrt
+</translation>
     </message>
     <message>
-        <source>Show this help.</source>
-        <translation>Diese Hilfe zeigen.</translation>
+        <source>Password of the repository: </source>
+        <translation>Passwort des Repositorys: </translation>
     </message>
     <message>
-        <source>Unexpected argument: %1</source>
-        <translation>Unerwartetes Argument: %1</translation>
+        <source>--init makes a repository, --unlock removes a dead program&apos;s lock.</source>
+        <translation>--init legt ein Repository an, --unlock entfernt die Sperre eines beendeten Programms.</translation>
     </message>
     <message>
-        <source>--restore needs a snapshot and a folder.</source>
-        <translation>Zu --restore gehören ein Snapshot und ein Ordner.</translation>
-    </message>
-    <message>
-        <source>--run needs --source.</source>
-        <translation>Zu --run gehört --source.</translation>
-    </message>
-    <message>
-        <source>This needs --target.</source>
-        <translation>Dazu gehört --target.</translation>
-    </message>
-    <message>
-        <source>What is to be done? Say --run, --verify, --restore or --snapshots.</source>
-        <translation>Was soll geschehen? Möglich sind --run, --verify, --restore und --snapshots.</translation>
-    </message>
-    <message>
-        <source>--limit-upload needs a number above 0.</source>
-        <translation>Zu --limit-upload gehört eine Zahl über 0.</translation>
-    </message>
-    <message>
-        <source>With --init it is made.</source>
-        <translation>Mit --init wird es angelegt.</translation>
-    </message>
-    <message>
-        <source>With --unlock a lock that a dead program left is removed.</source>
-        <translation>Mit --unlock wird eine Sperre entfernt, die ein beendetes Programm hinterlassen hat.</translation>
+        <source>Say --target, and --run with --source, --verify, --snapshots, or --restore with a snapshot and a folder. --help tells more.</source>
+        <translation>Nötig sind --target und dazu --run mit --source, --verify, --snapshots oder --restore mit einem Snapshot und einem Ordner. --help sagt mehr.</translation>
     </message>
 </context>
 <context>
@@ -209,10 +185,6 @@ Endstatus:
         <translation>Dateien</translation>
     </message>
     <message>
-        <source>How many files &quot;Next&quot; adds to the list, from %1 to %2</source>
-        <translation>Wie viele Dateien „Weiter“ der Liste hinzufügt, von %1 bis %2</translation>
-    </message>
-    <message>
         <source>&amp;Show snapshots</source>
         <translation>S&amp;napshots zeigen</translation>
     </message>
@@ -256,6 +228,10 @@ Endstatus:
         <source>Looking for snapshots...</source>
         <translation>Sucht Snapshots ...</translation>
     </message>
+    <message>
+        <source>How many files &quot;Next&quot; adds to the list, from 10 to 10000</source>
+        <translation>Wie viele Dateien „Weiter“ der Liste hinzufügt, von 10 bis 10000</translation>
+    </message>
 </context>
 <context>
     <name>JobModel</name>
@@ -282,34 +258,6 @@ Endstatus:
     <message>
         <source>Choose a folder...</source>
         <translation>Ordner wählen ...</translation>
-    </message>
-    <message>
-        <source>Password: asked for</source>
-        <translation>Passwort: wird erfragt</translation>
-    </message>
-    <message>
-        <source>Password: typed</source>
-        <translation>Passwort: eingegeben</translation>
-    </message>
-    <message>
-        <source>Verify: no</source>
-        <translation>Prüfen: nein</translation>
-    </message>
-    <message>
-        <source>Verify: yes</source>
-        <translation>Prüfen: ja</translation>
-    </message>
-    <message>
-        <source>Cancel %1</source>
-        <translation>%1 abbrechen</translation>
-    </message>
-    <message>
-        <source>Run %1</source>
-        <translation>%1 starten</translation>
-    </message>
-    <message>
-        <source>Remove %1</source>
-        <translation>%1 entfernen</translation>
     </message>
 </context>
 <context>
@@ -378,6 +326,18 @@ Endstatus:
         <source>Folder to back up</source>
         <translation>Zu sichernder Ordner</translation>
     </message>
+    <message>
+        <source>Cancel %1</source>
+        <translation>%1 abbrechen</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>%1 starten</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -405,21 +365,33 @@ Endstatus:
         <source>The list of backups could not be saved.</source>
         <translation>Die Liste der Sicherungen konnte nicht gespeichert werden.</translation>
     </message>
+    <message>
+        <source>Nothing is running.</source>
+        <translation>Es läuft nichts.</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>What restic said</source>
+        <translation>Was restic sagte</translation>
+    </message>
+    <message>
+        <source>There is no repository there yet. Create one? Whoever loses its password loses the backups in it.</source>
+        <translation>Dort ist noch kein Repository. Eines anlegen? Wer sein Passwort verliert, verliert die Sicherungen darin.</translation>
+    </message>
+    <message>
+        <source>A program that is no longer there has left the repository locked. Remove the lock?</source>
+        <translation>Ein Programm, das nicht mehr läuft, hat das Repository gesperrt zurückgelassen. Die Sperre entfernen?</translation>
+    </message>
 </context>
 <context>
     <name>Outcome</name>
-    <message>
-        <source>Restored below %1.</source>
-        <translation>Wiederhergestellt unter %1.</translation>
-    </message>
-    <message>
-        <source>Snapshot %1: %2 new, %3 changed, %4 unchanged files; %5 read, %6 added.</source>
-        <translation>Snapshot %1: %2 neue, %3 geänderte, %4 unveränderte Dateien; %5 gelesen, %6 hinzugefügt.</translation>
-    </message>
-    <message>
-        <source>All of the repository was read back: no errors.</source>
-        <translation>Das ganze Repository wurde zurückgelesen: keine Fehler.</translation>
-    </message>
     <message>
         <source>Some files could not be read; all others are backed up.</source>
         <translation>Einige Dateien konnten nicht gelesen werden; alle anderen sind gesichert.</translation>
@@ -431,10 +403,6 @@ Endstatus:
     <message>
         <source>There is no restic. Install the package &quot;restic&quot;, or say where the program is: restic=/path/of/restic at the top of %1.</source>
         <translation>Es gibt hier kein restic. Installieren Sie das Paket „restic“, oder sagen Sie, wo das Programm ist: restic=/pfad/zu/restic am Anfang von %1.</translation>
-    </message>
-    <message>
-        <source>This restic is too old: %1. Install version %2 or newer of the package &quot;restic&quot;.</source>
-        <translation>Dieses restic ist zu alt: %1. Installieren Sie die Version %2 oder eine neuere des Pakets „restic“.</translation>
     </message>
     <message>
         <source>A repository needs a password. Nothing was done.</source>
@@ -483,50 +451,16 @@ Endstatus:
             <numerusform>%n Zeilen von restic ergaben keinen Sinn.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>This restic is too old: %1. Install version 0.14 or newer of the package &quot;restic&quot;.</source>
+        <translation>Dieses restic ist zu alt: %1. Installieren Sie die Version 0.14 oder eine neuere des Pakets „restic“.</translation>
+    </message>
 </context>
 <context>
     <name>ResticRun</name>
     <message>
         <source>cannot be read</source>
         <translation>kann nicht gelesen werden</translation>
-    </message>
-</context>
-<context>
-    <name>RunPanel</name>
-    <message>
-        <source>Nothing is running.</source>
-        <translation>Es läuft nichts.</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Abbrechen</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
-    </message>
-    <message>
-        <source>What restic said</source>
-        <translation>Was restic sagte</translation>
-    </message>
-    <message>
-        <source>There is no repository there yet. Create one? Whoever loses its password loses the backups in it.</source>
-        <translation>Dort ist noch kein Repository. Eines anlegen? Wer sein Passwort verliert, verliert die Sicherungen darin.</translation>
-    </message>
-    <message>
-        <source>A program that is no longer there has left the repository locked. Remove the lock?</source>
-        <translation>Ein Programm, das nicht mehr läuft, hat das Repository gesperrt zurückgelassen. Die Sperre entfernen?</translation>
-    </message>
-</context>
-<context>
-    <name>Terminal</name>
-    <message>
-        <source>Password of the repository: </source>
-        <translation>Passwort des Repositorys: </translation>
-    </message>
-    <message>
-        <source>Password of the repository (can be seen): </source>
-        <translation>Passwort des Repositorys (ist zu sehen): </translation>
     </message>
 </context>
 <context>

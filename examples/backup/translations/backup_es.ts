@@ -2,30 +2,34 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
-    <name>BackupProgress</name>
-    <message>
-        <source>Backing up: %1 of %2 files, %3 of %4  %5</source>
-        <translation>Copiando: %1 de %2 archivos, %3 de %4  %5</translation>
-    </message>
+    <name>BackupRun</name>
     <message>
         <source>Verifying</source>
         <translation>Verificando</translation>
-    </message>
-    <message>
-        <source>Verifying: %1 %</source>
-        <translation>Verificando: %1 %</translation>
     </message>
     <message>
         <source>Restoring</source>
         <translation>Restaurando</translation>
     </message>
     <message>
-        <source>Restoring: %1 %</source>
-        <translation>Restaurando: %1 %</translation>
-    </message>
-    <message>
         <source>Preparing</source>
         <translation>Preparando</translation>
+    </message>
+    <message>
+        <source>Backing up: %1 of %2 files, %3 of %4  %5</source>
+        <translation>Copiando: %1 de %2 archivos, %3 de %4  %5</translation>
+    </message>
+    <message>
+        <source>Snapshot %1: %2 new, %3 changed, %4 unchanged files; %5 read, %6 added.</source>
+        <translation>Instantánea %1: %2 archivos nuevos, %3 cambiados, %4 sin cambios; %5 leídos, %6 añadidos.</translation>
+    </message>
+    <message>
+        <source>All of the repository was read back: no errors.</source>
+        <translation>Se releyó todo el repositorio: sin errores.</translation>
+    </message>
+    <message>
+        <source>Restored below %1.</source>
+        <translation>Restaurado en %1.</translation>
     </message>
 </context>
 <context>
@@ -36,29 +40,7 @@
     </message>
 </context>
 <context>
-    <name>CommandLine</name>
-    <message>
-        <source>The password is the first line of the standard input; on a terminal it is asked for.
-Exit status:
-  0  done
-  1  failed
-  2  the arguments make no sense, or something is missing: restic, source, repository, password
-  3  backed up, but for some files that could not be read
-  4  verifying found damage
-  5  wrong password
-  6  the repository is locked
-</source>
-        <translation>La contraseña es la primera línea de la entrada estándar; en un terminal se pregunta por ella.
-Estado de salida:
-  0  hecho
-  1  falló
-  2  los argumentos no tienen sentido o falta algo: restic, origen, repositorio, contraseña
-  3  copiado, salvo algunos archivos que no se pudieron leer
-  4  la verificación encontró daños
-  5  contraseña incorrecta
-  6  el repositorio está bloqueado
-</translation>
-    </message>
+    <name>Console</name>
     <message>
         <source>Backups, by restic.</source>
         <translation>Copias de seguridad con restic.</translation>
@@ -108,44 +90,38 @@ Estado de salida:
         <translation>Guardar imágenes de la ventana en FOLDER.</translation>
     </message>
     <message>
-        <source>Show the version.</source>
-        <translation>Mostrar la versión.</translation>
+        <source>The password is the first line of the standard input; on a terminal it is asked for.
+Exit status:
+  0  done
+  1  failed
+  2  the arguments make no sense, or something is missing: restic, source, repository, password
+  3  backed up, but for some files that could not be read
+  4  verifying found damage
+  5  wrong password
+  6  the repository is locked
+</source>
+        <translation>La contraseña es la primera línea de la entrada estándar; en un terminal se pregunta por ella.
+Estado de salida:
+  0  hecho
+  1  falló
+  2  los argumentos no tienen sentido o falta algo: restic, origen, repositorio, contraseña
+  3  copiado, salvo algunos archivos que no se pudieron leer
+  4  la verificación encontró daños
+  5  contraseña incorrecta
+  6  el repositorio está bloqueado
+</translation>
     </message>
     <message>
-        <source>Show this help.</source>
-        <translation>Mostrar esta ayuda.</translation>
+        <source>Password of the repository: </source>
+        <translation>Contraseña del repositorio: </translation>
     </message>
     <message>
-        <source>Unexpected argument: %1</source>
-        <translation>Argumento inesperado: %1</translation>
+        <source>--init makes a repository, --unlock removes a dead program&apos;s lock.</source>
+        <translation>--init crea un repositorio y --unlock quita el bloqueo de un programa que ya no existe.</translation>
     </message>
     <message>
-        <source>--restore needs a snapshot and a folder.</source>
-        <translation>--restore necesita una instantánea y una carpeta.</translation>
-    </message>
-    <message>
-        <source>--run needs --source.</source>
-        <translation>--run necesita --source.</translation>
-    </message>
-    <message>
-        <source>This needs --target.</source>
-        <translation>Esto necesita --target.</translation>
-    </message>
-    <message>
-        <source>What is to be done? Say --run, --verify, --restore or --snapshots.</source>
-        <translation>¿Qué hay que hacer? Indique --run, --verify, --restore o --snapshots.</translation>
-    </message>
-    <message>
-        <source>--limit-upload needs a number above 0.</source>
-        <translation>--limit-upload necesita un número mayor que 0.</translation>
-    </message>
-    <message>
-        <source>With --init it is made.</source>
-        <translation>Con --init se crea.</translation>
-    </message>
-    <message>
-        <source>With --unlock a lock that a dead program left is removed.</source>
-        <translation>Con --unlock se quita un bloqueo que dejó un programa terminado.</translation>
+        <source>Say --target, and --run with --source, --verify, --snapshots, or --restore with a snapshot and a folder. --help tells more.</source>
+        <translation>Indique --target y, además, --run con --source, --verify, --snapshots o --restore con una instantánea y una carpeta. --help dice más.</translation>
     </message>
 </context>
 <context>
@@ -209,10 +185,6 @@ Estado de salida:
         <translation>Archivos</translation>
     </message>
     <message>
-        <source>How many files &quot;Next&quot; adds to the list, from %1 to %2</source>
-        <translation>Cuántos archivos añade «Siguiente» a la lista, de %1 a %2</translation>
-    </message>
-    <message>
         <source>&amp;Show snapshots</source>
         <translation>Mostrar in&amp;stantáneas</translation>
     </message>
@@ -256,6 +228,10 @@ Estado de salida:
         <source>Looking for snapshots...</source>
         <translation>Buscando instantáneas...</translation>
     </message>
+    <message>
+        <source>How many files &quot;Next&quot; adds to the list, from 10 to 10000</source>
+        <translation>Cuántos archivos añade «Siguiente» a la lista, de 10 a 10000</translation>
+    </message>
 </context>
 <context>
     <name>JobModel</name>
@@ -282,34 +258,6 @@ Estado de salida:
     <message>
         <source>Choose a folder...</source>
         <translation>Elegir una carpeta...</translation>
-    </message>
-    <message>
-        <source>Password: asked for</source>
-        <translation>Contraseña: se pedirá</translation>
-    </message>
-    <message>
-        <source>Password: typed</source>
-        <translation>Contraseña: escrita</translation>
-    </message>
-    <message>
-        <source>Verify: no</source>
-        <translation>Verificar: no</translation>
-    </message>
-    <message>
-        <source>Verify: yes</source>
-        <translation>Verificar: sí</translation>
-    </message>
-    <message>
-        <source>Cancel %1</source>
-        <translation>Cancelar %1</translation>
-    </message>
-    <message>
-        <source>Run %1</source>
-        <translation>Iniciar %1</translation>
-    </message>
-    <message>
-        <source>Remove %1</source>
-        <translation>Quitar %1</translation>
     </message>
 </context>
 <context>
@@ -378,6 +326,18 @@ Estado de salida:
         <source>Folder to back up</source>
         <translation>Carpeta que se ha de copiar</translation>
     </message>
+    <message>
+        <source>Cancel %1</source>
+        <translation>Cancelar %1</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>Iniciar %1</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>Quitar %1</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -405,21 +365,33 @@ Estado de salida:
         <source>The list of backups could not be saved.</source>
         <translation>No se pudo guardar la lista de copias.</translation>
     </message>
+    <message>
+        <source>Nothing is running.</source>
+        <translation>No hay nada en marcha.</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>Canc&amp;elar</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>What restic said</source>
+        <translation>Lo que dijo restic</translation>
+    </message>
+    <message>
+        <source>There is no repository there yet. Create one? Whoever loses its password loses the backups in it.</source>
+        <translation>Allí aún no hay ningún repositorio. ¿Crear uno? Quien pierde su contraseña pierde las copias que contiene.</translation>
+    </message>
+    <message>
+        <source>A program that is no longer there has left the repository locked. Remove the lock?</source>
+        <translation>Un programa que ya no está dejó bloqueado el repositorio. ¿Quitar el bloqueo?</translation>
+    </message>
 </context>
 <context>
     <name>Outcome</name>
-    <message>
-        <source>Restored below %1.</source>
-        <translation>Restaurado en %1.</translation>
-    </message>
-    <message>
-        <source>Snapshot %1: %2 new, %3 changed, %4 unchanged files; %5 read, %6 added.</source>
-        <translation>Instantánea %1: %2 archivos nuevos, %3 cambiados, %4 sin cambios; %5 leídos, %6 añadidos.</translation>
-    </message>
-    <message>
-        <source>All of the repository was read back: no errors.</source>
-        <translation>Se releyó todo el repositorio: sin errores.</translation>
-    </message>
     <message>
         <source>Some files could not be read; all others are backed up.</source>
         <translation>Algunos archivos no se pudieron leer; todos los demás están copiados.</translation>
@@ -431,10 +403,6 @@ Estado de salida:
     <message>
         <source>There is no restic. Install the package &quot;restic&quot;, or say where the program is: restic=/path/of/restic at the top of %1.</source>
         <translation>No hay restic. Instale el paquete «restic» o indique dónde está el programa: restic=/ruta/de/restic al principio de %1.</translation>
-    </message>
-    <message>
-        <source>This restic is too old: %1. Install version %2 or newer of the package &quot;restic&quot;.</source>
-        <translation>Este restic es demasiado antiguo: %1. Instale la versión %2 o una más nueva del paquete «restic».</translation>
     </message>
     <message>
         <source>A repository needs a password. Nothing was done.</source>
@@ -483,50 +451,16 @@ Estado de salida:
             <numerusform>%n líneas de restic no tenían sentido.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>This restic is too old: %1. Install version 0.14 or newer of the package &quot;restic&quot;.</source>
+        <translation>Este restic es demasiado antiguo: %1. Instale la versión 0.14 o una más nueva del paquete «restic».</translation>
+    </message>
 </context>
 <context>
     <name>ResticRun</name>
     <message>
         <source>cannot be read</source>
         <translation>no se puede leer</translation>
-    </message>
-</context>
-<context>
-    <name>RunPanel</name>
-    <message>
-        <source>Nothing is running.</source>
-        <translation>No hay nada en marcha.</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>Canc&amp;elar</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progreso</translation>
-    </message>
-    <message>
-        <source>What restic said</source>
-        <translation>Lo que dijo restic</translation>
-    </message>
-    <message>
-        <source>There is no repository there yet. Create one? Whoever loses its password loses the backups in it.</source>
-        <translation>Allí aún no hay ningún repositorio. ¿Crear uno? Quien pierde su contraseña pierde las copias que contiene.</translation>
-    </message>
-    <message>
-        <source>A program that is no longer there has left the repository locked. Remove the lock?</source>
-        <translation>Un programa que ya no está dejó bloqueado el repositorio. ¿Quitar el bloqueo?</translation>
-    </message>
-</context>
-<context>
-    <name>Terminal</name>
-    <message>
-        <source>Password of the repository: </source>
-        <translation>Contraseña del repositorio: </translation>
-    </message>
-    <message>
-        <source>Password of the repository (can be seen): </source>
-        <translation>Contraseña del repositorio (se ve): </translation>
     </message>
 </context>
 <context>

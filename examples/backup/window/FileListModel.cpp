@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "FileListModel.h"
 
-#include "SizeText.h"
-
 #include <QFileInfo>
 #include <QLocale>
 
@@ -12,14 +10,40 @@ namespace {
 
 QString typeText(const SnapshotFile &file)
 {
-    const QString suffix = QFileInfo(file.path).suffix();
-    if (file.type == QLatin1String("dir")) {
+    if (file.type == "dir") {
         return FileListModel::tr("folder");
     }
-    if (file.type == QLatin1String("symlink")) {
+    if (file.type == "symlink") {
         return FileListModel::tr("link");
     }
+    const QString suffix = QFileInfo(file.path).suffix();
     return suffix.isEmpty() ? FileListModel::tr("file") : suffix;
+}
+
+// "rwxr-xr-x" as "755": the column is narrow.
+QString octal(const QString &permissions)
+{
+    int bits = 0;
+    for (const QChar letter : permissions) {
+        bits = bits * 2 + (letter == '-' ? 0 : 1);
+    }
+    return QString::number(bits, 8).rightJustified(3, '0');
+}
+
+QString cellText(const SnapshotFile &file, int column)
+{
+    switch (column) {
+    case FileListModel::Modified:
+        return QLocale().toString(file.modified.date(), QLocale::ShortFormat);
+    case FileListModel::Size:
+        return file.type == "file" ? sizeText(file.size) : QString();
+    case FileListModel::Type:
+        return typeText(file);
+    case FileListModel::Rights:
+        return octal(file.permissions.right(9)); // before them stands the type
+    default:
+        return file.path;
+    }
 }
 
 bool isBefore(const SnapshotFile &left, const SnapshotFile &right, int column)
@@ -29,51 +53,8 @@ bool isBefore(const SnapshotFile &left, const SnapshotFile &right, int column)
         return left.modified < right.modified;
     case FileListModel::Size:
         return left.size < right.size;
-    case FileListModel::Type:
-        return typeText(left) < typeText(right);
-    case FileListModel::Rights:
-        return left.permissions < right.permissions;
     default:
-        return left.path < right.path;
-    }
-}
-
-// Fits the narrow column: the time of day for what is recent, the year for the rest.
-QString shortTime(const QDateTime &time)
-{
-    const qint64 days = time.daysTo(QDateTime::currentDateTime());
-    const bool isRecent = days >= 0 && days < 180;
-    return QLocale().toString(
-        time, isRecent ? QStringLiteral("d MMM hh:mm") : QStringLiteral("d MMM yyyy"));
-}
-
-// "rwxr-xr-x" as "755": the column is narrow.
-QString octal(const QString &permissions)
-{
-    QString digits;
-    for (int first = 0; first + 2 < permissions.size(); first += 3) {
-        int digit = 0;
-        for (int bit = first; bit < first + 3; ++bit) {
-            digit = digit * 2 + (permissions.at(bit) == QLatin1Char('-') ? 0 : 1);
-        }
-        digits += QString::number(digit);
-    }
-    return digits;
-}
-
-QString cellText(const SnapshotFile &file, int column)
-{
-    switch (column) {
-    case FileListModel::Modified:
-        return shortTime(file.modified);
-    case FileListModel::Size:
-        return file.type == QLatin1String("file") ? sizeText(file.size) : QString();
-    case FileListModel::Type:
-        return typeText(file);
-    case FileListModel::Rights:
-        return octal(file.permissions.right(9)); // before them stands the type
-    default:
-        return file.path;
+        return cellText(left, column) < cellText(right, column);
     }
 }
 
@@ -84,10 +65,15 @@ FileListModel::FileListModel(QObject *parent)
 {
     setHorizontalHeaderLabels({tr("Name"), tr("Modified"), tr("Size"), tr("Type"), tr("Rights")});
     connect(&m_listing, &SnapshotListing::pageRead, this, &FileListModel::takePage);
-    connect(&m_listing, &SnapshotListing::failed, this, &FileListModel::takeFailure);
-    // Connected before any view is, so that the list agrees with the rows when a view looks.
-    connect(this, &FileListModel::rowsInserted, this, &FileListModel::takeInsertedRows);
-    connect(this, &FileListModel::rowsRemoved, this, &FileListModel::dropRemovedRows);
+    connect(&m_listing, &SnapshotListing::failed, this, [this](const Outcome &outcome) {
+        takePage({}, true);
+        emit failed(outcome);
+    });
+    // Connected before any view is, so that the files agree with the rows when a view looks.
+    connect(this, &FileListModel::rowsInserted, this, [this] {
+        m_files += m_page;
+        m_page.clear();
+    });
 }
 
 void FileListModel::setSnapshot(const BackupJob &job, const QString &id)
@@ -95,8 +81,9 @@ void FileListModel::setSnapshot(const BackupJob &job, const QString &id)
     // The listing forgets a page that was asked for; the list waits for it and does not ask again.
     const bool isAwaited = m_isRequested;
     m_hasSnapshot = !id.isEmpty();
+    m_files.clear();
     m_listing.open(job, id);
-    emit dataChanged();
+    emit dataChanged(); // at which the list removes the rows
     if (isAwaited) {
         LoadItems();
     }
@@ -127,31 +114,20 @@ void FileListModel::takePage(const QList<SnapshotFile> &files, bool completed)
     emit pageLoaded(files.size(), completed);
 }
 
-void FileListModel::takeFailure(const Outcome &outcome)
-{
-    takePage({}, true);
-    emit failed(outcome);
-}
-
 QVariant FileListModel::data(const QModelIndex &index, int role) const
 {
-    if (!index.isValid() || index.parent().isValid() || index.row() >= m_files.size()) {
+    if (!index.isValid() || index.row() >= m_files.size()) {
         return QStandardItemModel::data(index, role);
     }
     const SnapshotFile &file = m_files.at(index.row());
-    if (role == Qt::DisplayRole) {
-        return cellText(file, index.column());
-    }
     if (role == Qt::ToolTipRole && index.column() == Modified) {
         return QLocale().toString(file.modified, QLocale::LongFormat);
     }
-    if (role == Qt::ToolTipRole) {
+    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
         return cellText(file, index.column());
     }
-    if (role == Qt::TextAlignmentRole && index.column() == Size) {
-        return int(Qt::AlignRight | Qt::AlignVCenter);
-    }
-    return QVariant();
+    const bool isAligned = role == Qt::TextAlignmentRole && index.column() == Size;
+    return isAligned ? QVariant(int(Qt::AlignRight | Qt::AlignVCenter)) : QVariant();
 }
 
 // The paging row is not among the files and so stays where it is, behind them.
@@ -164,22 +140,4 @@ void FileListModel::sort(int column, Qt::SortOrder order)
                          return isBefore(ascends ? left : right, ascends ? right : left, column);
                      });
     emit layoutChanged();
-}
-
-void FileListModel::takeInsertedRows(const QModelIndex &parent, int first, int last)
-{
-    const bool isPage
-        = !parent.isValid() && first == m_files.size() && last - first + 1 == m_page.size();
-    if (isPage) {
-        m_files += m_page;
-        m_page.clear();
-    }
-}
-
-void FileListModel::dropRemovedRows(const QModelIndex &parent, int first, int last)
-{
-    if (!parent.isValid() && first < m_files.size()) {
-        const int end = qMin(last + 1, int(m_files.size()));
-        m_files.erase(m_files.begin() + first, m_files.begin() + end);
-    }
 }

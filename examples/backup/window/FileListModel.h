@@ -29,7 +29,7 @@ public:
     void setPageSize(int count);
 
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
-    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+    void sort(int column, Qt::SortOrder order) override;
 
 public slots:
     /// Has the next page read, inserts it all at once before the last row and announces it.
@@ -43,9 +43,6 @@ signals:
 
 private:
     void takePage(const QList<SnapshotFile> &files, bool completed);
-    void takeFailure(const Outcome &outcome);
-    void takeInsertedRows(const QModelIndex &parent, int first, int last);
-    void dropRemovedRows(const QModelIndex &parent, int first, int last);
 
     SnapshotListing m_listing;
     QList<SnapshotFile> m_files; ///< As the rows show them; the paging row is not among them.

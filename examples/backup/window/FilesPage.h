@@ -4,18 +4,15 @@
 
 #include "BackupRun.h"
 #include "ResticRun.h"
-#include "Snapshot.h"
 
 #include <QWidget>
 
 #include <memory>
 
 class FileListModel;
-class FileListTableView;
 class QComboBox;
 class QLabel;
 class QPushButton;
-class SpinBox;
 
 /// The snapshots of a job, the files in the chosen one, and a way to get them back.
 class FilesPage : public QWidget
@@ -29,12 +26,6 @@ public:
     /// Shows another job's snapshots. Nothing is read before the page is shown.
     void setJob(const BackupJob &job);
 
-public slots:
-    /// Reads the list of snapshots again; asks for the password if the job has none.
-    void reload();
-    /// Asks for a folder and restores the chosen snapshot into it.
-    void restore();
-
 signals:
     /// A run has begun: what it does, for a headline.
     void started(const QString &headline);
@@ -45,18 +36,18 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private slots:
+    void reload();
     void listFiles();
+    void restore();
     void showOutcome(const Outcome &outcome);
-    void followRun(const Outcome &outcome);
 
 private:
-    void setUpList();
-    void setUpPageSize();
+    QWidget *makeList();
+    QWidget *makePageSize();
     void setUpLayout();
-    void loadIfStale();
     void load();
     void clear(const QString &hint);
-    void offer(const QList<Snapshot> &snapshots);
+    void offer(const QJsonDocument &message);
 
     BackupRun *m_run;
     BackupJob m_job;
@@ -64,10 +55,8 @@ private:
     std::unique_ptr<ResticRun> m_reading; ///< Of the list of snapshots.
     QComboBox *m_snapshots;
     QPushButton *m_restore;
-    FileListTableView *m_list;
     FileListModel *m_model;
     QLabel *m_hint;
-    SpinBox *m_pageSize;
 };
 
 #endif

@@ -4,6 +4,8 @@
 
 #include "BackupRun.h"
 
+#include <QPersistentModelIndex>
+#include <QStringListModel>
 #include <QWidget>
 
 class EditableTableView;
@@ -23,17 +25,9 @@ public:
     /// The job in the current row; the first one if there is no current row.
     BackupJob currentJob() const;
 
-public slots:
-    /// Adds a job from the home folder and opens the editor of its name.
-    void addJob();
-    /// Runs the job, or cancels it if it is the one that runs.
-    void runJob(int row);
-    /// Asks first. A job that runs stays.
-    void removeJob(int row);
-
 signals:
     /// Another job is the current one, or it has been edited.
-    void currentJobChanged(const BackupJob &job);
+    void currentJobChanged();
     /// A run has begun: what it does, for a headline.
     void started(const QString &headline);
     /// A sentence for the status bar.
@@ -43,27 +37,27 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
-    void actOnClick(QWidget *button, int row, int column);
-    void announceCurrentJob();
-    void shareWidth();
-    void dressButtons();
+    void addJob();
     void chooseSource(int row);
-    void endRun();
+    void followJobs();
 
 private:
     void setUpTable();
-    void setUpWidths();
-    void setUpBandwidthLimit();
     void setUpLayout();
+    void dressButtons();
+    void runJob(int row);
+    void start(int row, BackupJob job);
+    void removeJob(int row);
     void editCell(int row, int column);
-    void askPassword(int row);
-    void start(int row, const BackupJob &job);
 
     BackupRun *m_run;
     JobModel *m_jobs;
+    QStringListModel m_sources; ///< The last one stands for a folder still to be chosen.
+    QStringListModel m_repositories;
     EditableTableView *m_table;
     QLabel *m_hint; ///< How to begin, where there is no job.
     SpinBox *m_bandwidthLimit; ///< Of the next run.
+    QPersistentModelIndex m_running; ///< In the row of the job that runs.
 };
 
 #endif

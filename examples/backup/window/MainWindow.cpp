@@ -1,100 +1,161 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "MainWindow.h"
 
-#include "BackupRun.h"
 #include "FilesPage.h"
 #include "JobModel.h"
 #include "JobsPage.h"
-#include "Question.h"
-#include "RunPanel.h"
 #ifdef TESSALINE_HAS_PLOT
 #include "ThroughputPage.h"
 #endif
 
 #include <QCloseEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTabWidget>
-#include <QVBoxLayout>
 
 MainWindow::MainWindow(const JobStore &store, QWidget *parent)
     : QMainWindow(parent)
     , m_store(store)
     , m_jobs(new JobModel(store.load(), this))
     , m_run(new BackupRun(this))
+    , m_headline(new QLabel(tr("Nothing is running.")))
+    , m_bar(new QProgressBar)
+    , m_cancel(new QPushButton(tr("&Cancel")))
+    , m_progress(new QLabel)
+    , m_details(new QPlainTextEdit)
 {
     setWindowTitle(tr("Backup"));
-    setUpPages();
-    saveWhenChanged();
+    setCentralWidget(new QWidget);
+    QVBoxLayout *layout = new QVBoxLayout(centralWidget());
+    layout->addWidget(makePages(), 1);
+    layout->addLayout(makeRunPanel());
     resize(QSize(960, 560).boundedTo(screen()->availableSize() * 0.95));
+    connect(m_jobs, &JobModel::itemChanged, this, &MainWindow::save);
+    connect(m_jobs, &JobModel::rowsInserted, this, &MainWindow::save);
+    connect(m_jobs, &JobModel::rowsRemoved, this, &MainWindow::save);
+    connect(m_cancel, &QPushButton::clicked, m_run, &BackupRun::cancel);
+    connect(m_run, &BackupRun::progressChanged, this, &MainWindow::showProgress);
+    connect(m_run, &BackupRun::problemFound, this, &MainWindow::showDetail);
+    connect(m_run, &BackupRun::finished, this, &MainWindow::showOutcome);
+    // Not while the run is still busy asking.
+    connect(m_run, &BackupRun::asked, this, &MainWindow::ask, Qt::QueuedConnection);
 }
 
-void MainWindow::setUpPages()
+QWidget *MainWindow::makePages()
 {
     JobsPage *jobs = new JobsPage(m_jobs, m_run);
     FilesPage *files = new FilesPage(m_run);
-    RunPanel *panel = new RunPanel(m_run);
     QTabWidget *pages = new QTabWidget;
     pages->addTab(jobs, tr("&Backups"));
     pages->addTab(files, tr("&Files"));
 #ifdef TESSALINE_HAS_PLOT
     pages->addTab(new ThroughputPage(m_run), tr("&Throughput"));
 #endif
-    setCentralWidget(new QWidget);
-    QVBoxLayout *layout = new QVBoxLayout(centralWidget());
-    layout->addWidget(pages, 1);
-    layout->addWidget(panel);
-    statusBar();
-
-    connect(jobs, &JobsPage::currentJobChanged, files, &FilesPage::setJob);
-    connect(jobs, &JobsPage::started, panel, &RunPanel::begin);
-    connect(files, &FilesPage::started, panel, &RunPanel::begin);
-    connect(jobs, &JobsPage::message, this, &MainWindow::showMessage);
-    connect(files, &FilesPage::message, this, &MainWindow::showMessage);
-    files->setJob(jobs->currentJob());
-}
-
-void MainWindow::saveWhenChanged()
-{
-    m_saveSoon.setSingleShot(true);
-    connect(&m_saveSoon, &QTimer::timeout, this, &MainWindow::save);
-    const auto saveSoon = [this] {
-        m_saveSoon.start();
+    const auto setJob = [jobs, files] {
+        files->setJob(jobs->currentJob());
     };
-    connect(m_jobs, &JobModel::itemChanged, this, saveSoon);
-    connect(m_jobs, &JobModel::rowsInserted, this, saveSoon);
-    connect(m_jobs, &JobModel::rowsRemoved, this, saveSoon);
+    setJob();
+    connect(jobs, &JobsPage::currentJobChanged, files, setJob);
+    connect(jobs, &JobsPage::started, this, &MainWindow::showStart);
+    connect(files, &FilesPage::started, this, &MainWindow::showStart);
+    const auto showMessage = [this](const QString &text) {
+        statusBar()->showMessage(text);
+    };
+    connect(jobs, &JobsPage::message, this, showMessage);
+    connect(files, &FilesPage::message, this, showMessage);
+    return pages;
 }
 
-void MainWindow::closeEvent(QCloseEvent *event)
+QLayout *MainWindow::makeRunPanel()
 {
-    save();
-    if (!m_run->isRunning()) {
-        return;
-    }
-    event->ignore();
-    Question::ask(
-        this, tr("A run is under way. Cancel it and close the window?"), [this](bool yes) {
-            if (!yes) {
-                return;
-            }
-            connect(m_run, &BackupRun::finished, this, &QWidget::close, Qt::QueuedConnection);
-            m_run->cancel();
-            if (!m_run->isRunning()) {
-                close(); // it has ended by itself meanwhile
-            }
-        });
+    m_headline->setTextFormat(Qt::PlainText);
+    m_headline->setWordWrap(true);
+    m_bar->setRange(0, 1000);
+    m_bar->setValue(0);
+    m_bar->setAccessibleName(tr("Progress"));
+    m_cancel->setEnabled(false);
+    // A long file name shall not widen the window.
+    m_progress->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_progress->setTextFormat(Qt::PlainText);
+    m_details->setReadOnly(true);
+    m_details->setAccessibleName(tr("What restic said"));
+    m_details->setMaximumHeight(4 * fontMetrics().lineSpacing());
+    m_details->setMaximumBlockCount(1000);
+    m_details->hide();
+
+    QGridLayout *layout = new QGridLayout;
+    layout->addWidget(m_headline, 0, 0, 1, 2);
+    layout->addWidget(m_bar, 1, 0);
+    layout->addWidget(m_cancel, 1, 1);
+    layout->addWidget(m_progress, 2, 0, 1, 2);
+    layout->addWidget(m_details, 3, 0, 1, 2);
+    return layout;
 }
 
 void MainWindow::save()
 {
-    m_saveSoon.stop();
     if (!m_store.save(m_jobs->jobs())) {
-        showMessage(tr("The list of backups could not be saved."));
+        statusBar()->showMessage(tr("The list of backups could not be saved."));
     }
 }
 
-void MainWindow::showMessage(const QString &text)
+void MainWindow::showStart(const QString &headline)
 {
-    statusBar()->showMessage(text);
+    m_headline->setText(headline);
+    m_cancel->setEnabled(true);
+    m_details->clear();
+    m_details->hide();
+}
+
+void MainWindow::showProgress(const BackupProgress &progress)
+{
+    m_bar->setMaximum(progress.fraction < 0 ? 0 : 1000); // a bar without a maximum just moves
+    m_bar->setValue(int(progress.fraction * 1000));
+    m_progress->setText(progress.text());
+}
+
+void MainWindow::showDetail(const QString &text)
+{
+    m_details->appendPlainText(text);
+    m_details->show();
+}
+
+void MainWindow::showOutcome(const Outcome &outcome)
+{
+    m_cancel->setEnabled(false);
+    m_bar->setMaximum(1000);
+    m_bar->setValue(outcome.isGood() ? 1000 : 0);
+    m_headline->setText(outcome.text());
+    m_progress->clear();
+    if (!outcome.isGood() && !outcome.details.isEmpty()) {
+        showDetail(outcome.details);
+    }
+}
+
+void MainWindow::ask(BackupRun::Question question)
+{
+    const QString text = question == BackupRun::CreateRepository
+        ? tr("There is no repository there yet. Create one? Whoever loses its password loses the "
+             "backups in it.")
+        : tr("A program that is no longer there has left the repository locked. Remove the lock?");
+    m_run->answer(QMessageBox::question(this, windowTitle(), text) == QMessageBox::Yes);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    const QString question = tr("A run is under way. Cancel it and close the window?");
+    const bool closes = !m_run->isRunning()
+        || QMessageBox::question(this, windowTitle(), question) == QMessageBox::Yes;
+    // It may have ended by itself meanwhile.
+    event->setAccepted(closes && !m_run->isRunning());
+    if (closes && m_run->isRunning()) {
+        connect(m_run, &BackupRun::finished, this, &QWidget::close, Qt::QueuedConnection);
+        m_run->cancel();
+    }
 }

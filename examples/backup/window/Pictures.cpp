@@ -4,40 +4,29 @@
 #include "BackupRun.h"
 #include "FileListModel.h"
 #include "JobModel.h"
+#include "JobsPage.h"
 #include "MainWindow.h"
-#include "Translators.h"
 
 #include <EditableTableView.h>
 #include <SpinBox.h>
 
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
-#include <QFile>
-#include <QLineEdit>
-#include <QLocale>
+#include <QEventLoop>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRandomGenerator>
-#include <QStyleFactory>
 #include <QTabWidget>
 #include <QTemporaryDir>
-
-#include <cstdio>
-#include <functional>
-#include <memory>
+#include <QTimer>
 
 namespace {
 
-const QLatin1String password("correct horse");
-const QSize usualSize(960, 560);
-
 void writeSampleTree(const QString &folder)
 {
+    QDir().mkpath(folder);
     for (int number = 0; number < 1200; ++number) {
-        const QString below = QStringLiteral("%1/letters %2").arg(folder).arg(number / 100);
-        QDir().mkpath(below);
-        QFile file(QStringLiteral("%1/letter %2.odt").arg(below).arg(number, 4, 10, QChar('0')));
+        QFile file(QString("%1/letter %2.odt").arg(folder).arg(number, 4, 10, QChar('0')));
         QVector<quint32> noise(number * 4); // which cannot be made smaller
         QRandomGenerator::global()->fillRange(noise.data(), noise.size());
         if (file.open(QIODevice::WriteOnly)) {
@@ -46,196 +35,137 @@ void writeSampleTree(const QString &folder)
     }
 }
 
-BackupJob job(const QString &name, const QString &source, const QString &repository)
-{
-    BackupJob job;
-    job.name = name;
-    job.source = source;
-    job.repository = repository;
-    job.verify = true;
-    return job;
-}
-
 /// The window in front of the camera, with jobs of its own in a scratch folder.
 class Studio
 {
 public:
-    Studio(const QString &pictures, Translators *translators)
+    explicit Studio(const QString &pictures)
         : m_pictures(pictures)
-        , m_translators(translators)
-        , m_store(m_scratch.filePath(QStringLiteral("jobs.ini")))
+        , m_window(JobStore(m_scratch.filePath("jobs.ini")))
+        , m_jobs(m_window.findChild<JobModel *>())
+        , m_run(m_window.findChild<BackupRun *>())
     {
-        const QString source = m_scratch.filePath(QStringLiteral("Documents"));
-        writeSampleTree(source);
-        m_store.save({job(QStringLiteral("Documents"), source,
-                          m_scratch.filePath(QStringLiteral("repository"))),
-                      job(QStringLiteral("Pictures"), QStringLiteral("/home/anna/Pictures"),
-                          QStringLiteral("sftp:backup.example.org:/srv/anna"))});
+        const QStringList size
+            = qEnvironmentVariable("TESSALINE_PICTURES_SIZE", "960x560").split('x');
+        m_window.resize(size.first().toInt(), size.last().toInt());
+        m_window.show();
     }
 
     int run()
     {
+        take("jobs-empty", &m_window);
+        addJobs();
         takeBackup();
-        takeErrors();
-        QPalette dark(QColor(53, 53, 53));
-        dark.setColor(QPalette::Base, QColor(35, 35, 35));
-        QApplication::setPalette(dark);
-        takePages(QStringLiteral("dark"), QLocale::English, usualSize);
-        QApplication::setPalette(QApplication::style()->standardPalette());
-        takePages(QStringLiteral("german"), QLocale::German, usualSize);
-        takePages(QStringLiteral("spanish"), QLocale::Spanish, usualSize);
-        takePages(QStringLiteral("800x600"), QLocale::German, QSize(800, 600));
-        m_scale = 2;
-        takePages(QStringLiteral("2x"), QLocale::German, QSize(1366, 768) / m_scale);
+        runJob("wrong");
+        take("error-password", &m_window);
+        qputenv("PATH", "");
+        runJob("correct horse");
+        take("error-restic", &m_window);
         return m_exitStatus;
     }
 
 private:
-    void open(QLocale::Language language, const QSize &size)
+    void addJobs()
     {
-        m_translators->speak(QLocale(language));
-        m_window.reset(new MainWindow(m_store));
-        m_window->resize(size);
-        m_window->show();
-        m_window->activateWindow();
-    }
-
-    template <class Widget> Widget *find() const
-    {
-        return m_window->findChild<Widget *>();
-    }
-
-    void waitFor(const std::function<bool()> &condition)
-    {
-        QElapsedTimer timer;
-        timer.start();
-        while (!condition() && timer.elapsed() < 60000) {
-            QApplication::processEvents(QEventLoop::AllEvents, 20);
-        }
-        m_exitStatus = condition() ? m_exitStatus : 1;
-    }
-
-    void take(const QString &name, QWidget *widget)
-    {
-        QApplication::processEvents();
-        QPixmap picture(widget->size() * m_scale);
-        picture.setDevicePixelRatio(m_scale);
-        widget->render(&picture);
-        const QString path = QDir(m_pictures).filePath(name + QStringLiteral(".png"));
-        const bool isWritten = QDir().mkpath(m_pictures) && picture.save(path);
-        std::printf("%s%s\n", qPrintable(path), isWritten ? "" : " could not be written");
-        m_exitStatus = isWritten ? m_exitStatus : 1;
-    }
-
-    void takePages(const QString &name)
-    {
-        const QStringList pages
-            = {QStringLiteral("jobs-"), QStringLiteral("files-"), QStringLiteral("throughput-")};
-        QTabWidget *tabs = find<QTabWidget>();
-        for (int page = 0; page < tabs->count(); ++page) {
-            tabs->setCurrentIndex(page);
-            waitFor([this, page] {
-                return page != 1 || find<BackupRun>()->isRunning()
-                    || find<FileListModel>()->rowCount() > 1;
-            });
-            take(pages.at(page) + name, m_window.get());
-        }
-        tabs->setCurrentIndex(0);
-    }
-
-    void takePages(const QString &name, QLocale::Language language, const QSize &size)
-    {
-        open(language, size);
-        typePassword(password);
-        takePages(name);
-    }
-
-    void typePassword(const QString &text)
-    {
-        EditableTableView *table = find<EditableTableView>();
-        table->setCurrentIndex(table->model()->index(0, JobModel::Password));
-        table->edit(table->currentIndex());
-        table->findChild<QLineEdit *>()->insert(text);
-        table->setCurrentIndex(table->model()->index(0, JobModel::Name));
-    }
-
-    void clickRun()
-    {
-        QMetaObject::invokeMethod(find<EditableTableView>()->button(0, JobModel::Run), "click");
+        BackupJob job;
+        job.name = "Documents";
+        job.source = m_scratch.filePath(job.name);
+        job.repository = m_scratch.filePath("repository");
+        job.verify = true;
+        writeSampleTree(job.source);
+        m_jobs->appendJob(job);
+        job.name = "Pictures";
+        job.source = "/home/anna/Pictures";
+        job.repository = "sftp:backup.example.org:/srv/anna";
+        m_jobs->appendJob(job);
     }
 
     // Slowly, so that there is something to see of it.
     void takeBackup()
     {
-        open(QLocale::English, usualSize);
-        typePassword(password);
-        find<EditableTableView>()->parentWidget()->findChild<SpinBox *>()->setValue(2000);
-        clickRun();
-        waitFor([] {
-            return qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        m_window.findChild<JobsPage *>()->findChild<SpinBox *>()->setValue(2000);
+        QObject::connect(
+            m_run, &BackupRun::asked, &m_window,
+            [this] {
+                QMessageBox *question = m_window.findChild<QMessageBox *>();
+                take("question", question);
+                question->button(QMessageBox::Yes)->click();
+                takeRunning();
+            },
+            Qt::QueuedConnection);
+        runJob("correct horse");
+        takePages("finished");
+    }
+
+    void takeRunning()
+    {
+        const bool isSeen = m_run->bytesDone() > 0; // the chart has a value a second
+        QTimer::singleShot(1200, &m_window, [this, isSeen] {
+            isSeen ? takePages("running") : takeRunning();
         });
-        if (QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-            take(QStringLiteral("question"), box);
-            box->button(QMessageBox::Yes)->click();
+    }
+
+    void runJob(const QString &password)
+    {
+        const QModelIndex cell = m_jobs->index(0, JobModel::Password);
+        m_jobs->setData(cell, password, Qt::UserRole + 1);
+        m_jobs->setData(cell, QString(password.size(), '*'));
+        QWidget *run = m_window.findChild<EditableTableView *>()->button(0, JobModel::Run);
+        QMetaObject::invokeMethod(run, "click");
+        waitFor(m_run, SIGNAL(finished(Outcome)));
+    }
+
+    void waitFor(const QObject *sender, const char *signal)
+    {
+        QEventLoop loop;
+        QObject::connect(sender, signal, &loop, SLOT(quit()));
+        QTimer::singleShot(60000, &loop, [&loop] {
+            loop.exit(1);
+        });
+        m_exitStatus |= loop.exec();
+    }
+
+    void takePages(const QString &state)
+    {
+        const QStringList names = {"jobs-", "files-", "throughput-"};
+        QTabWidget *tabs = m_window.findChild<QTabWidget *>();
+        for (int page = 0; page < tabs->count(); ++page) {
+            tabs->setCurrentIndex(page);
+            if (page == 1 && !m_run->isRunning()) {
+                waitFor(m_window.findChild<FileListModel *>(), SIGNAL(pageLoaded(qint64,bool)));
+            }
+            take(names[page] + state, &m_window);
         }
-        waitFor([this] {
-            return find<BackupRun>()->bytesDone() > 0;
-        });
-        QElapsedTimer timer; // the chart has a value a second
-        timer.start();
-        waitFor([&timer] {
-            return timer.elapsed() > 1200;
-        });
-        takePages(QStringLiteral("running"));
-        waitForEnd();
-        takePages(QStringLiteral("finished"));
+        tabs->setCurrentIndex(0);
     }
 
-    void takeErrors()
+    void take(const QString &name, QWidget *widget)
     {
-        takeError(QStringLiteral("error-password"), QStringLiteral("wrong"));
-        const QByteArray path = qgetenv("PATH");
-        qputenv("PATH", "");
-        takeError(QStringLiteral("error-restic"), password);
-        qputenv("PATH", path);
-        const QList<BackupJob> jobs = m_store.load();
-        m_store.save({});
-        open(QLocale::English, usualSize);
-        take(QStringLiteral("jobs-empty"), m_window.get());
-        m_store.save(jobs);
-    }
-
-    void takeError(const QString &name, const QString &typed)
-    {
-        open(QLocale::English, usualSize);
-        typePassword(typed);
-        clickRun();
-        waitForEnd();
-        take(name, m_window.get());
-    }
-
-    void waitForEnd()
-    {
-        waitFor([this] {
-            return !find<BackupRun>()->isRunning();
-        });
+        QApplication::processEvents();
+        const QString path = QDir(m_pictures).filePath(name + ".png");
+        QDir().mkpath(m_pictures);
+        m_exitStatus |= widget->grab().save(path) ? 0 : 1;
     }
 
     QString m_pictures;
-    Translators *m_translators;
     QTemporaryDir m_scratch;
-    JobStore m_store;
-    std::unique_ptr<MainWindow> m_window;
-    int m_scale = 1;
+    MainWindow m_window;
+    JobModel *m_jobs;
+    BackupRun *m_run;
     int m_exitStatus = 0;
 };
 
 } // namespace
 
-int takePictures(const QString &folder, Translators *translators)
+int takePictures(const QString &folder)
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
-    QApplication::setPalette(QApplication::style()->standardPalette());
-    return Studio(folder, translators).run();
+    QApplication::setStyle("Fusion");
+    QApplication::setFont(QFont("DejaVu Sans", 9));
+    QPalette palette = QApplication::style()->standardPalette();
+    if (qEnvironmentVariableIsSet("TESSALINE_PICTURES_DARK")) {
+        palette = QPalette(QColor(53, 53, 53));
+        palette.setColor(QPalette::Base, QColor(35, 35, 35));
+    }
+    QApplication::setPalette(palette);
+    return Studio(folder).run();
 }

@@ -2,44 +2,39 @@
 #include "ThroughputPage.h"
 
 #include "BackupRun.h"
-#include "SizeText.h"
 
 #include <UpdatablePlot.h>
 
 #include <QLabel>
-#include <QSizePolicy>
+#include <QTimer>
 #include <QVBoxLayout>
-#include <QVariant>
 
-ThroughputPage::ThroughputPage(BackupRun *run, QWidget *parent)
+ThroughputPage::ThroughputPage(const BackupRun *run, QWidget *parent)
     : QWidget(parent)
-    , m_run(run)
-    , m_plot(new UpdatablePlot)
-    , m_now(new QLabel)
-    , m_bytesBefore(run->bytesDone())
 {
-    m_plot->setXTitle(tr("Time"));
-    m_plot->setYTitle(tr("Done in a second"));
-    m_plot->setBgColor(QStringLiteral("white"));
-    m_plot->setCurveColor(QStringLiteral("steelblue"));
-    m_plot->setAccessibleName(tr("Bytes done in each second"));
+    UpdatablePlot *plot = new UpdatablePlot;
+    plot->setXTitle(tr("Time"));
+    plot->setYTitle(tr("Done in a second"));
+    plot->setBgColor("white");
+    plot->setCurveColor("steelblue");
+    plot->setAccessibleName(tr("Bytes done in each second"));
     // Also where there is less room than a chart of Qwt's asks for.
-    m_plot->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    plot->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    QLabel *now = new QLabel; // the figures at the chart's axes are very small
     QVBoxLayout *layout = new QVBoxLayout(this);
-    layout->addWidget(m_plot, 1);
-    layout->addWidget(m_now);
+    layout->addWidget(plot, 1);
+    layout->addWidget(now);
 
-    connect(&m_everySecond, &QTimer::timeout, this, &ThroughputPage::addSecond);
-    m_everySecond.start(1000);
-}
-
-// The library's chart takes a value a second and does the rest.
-void ThroughputPage::addSecond()
-{
-    const qint64 bytes = m_run->bytesDone();
-    // A run that has begun since counts from nothing.
-    const qint64 added = bytes >= m_bytesBefore ? bytes - m_bytesBefore : bytes;
-    m_plot->updateData(added);
-    m_now->setText(tr("In the last second: %1").arg(sizeText(added)));
-    m_bytesBefore = bytes;
+    // The library's chart takes a value a second and does the rest.
+    QTimer *everySecond = new QTimer(this);
+    qint64 before = 0;
+    connect(everySecond, &QTimer::timeout, this, [=]() mutable {
+        const qint64 bytes = run->bytesDone();
+        // A run that has begun since counts from nothing.
+        const qint64 added = bytes >= before ? bytes - before : bytes;
+        plot->updateData(added);
+        now->setText(tr("In the last second: %1").arg(sizeText(added)));
+        before = bytes;
+    });
+    everySecond->start(1000);
 }
