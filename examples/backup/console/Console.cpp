@@ -56,22 +56,6 @@ void addOptions(QCommandLineParser *parser)
     });
 }
 
-QString exitStatusText()
-{
-    return Console::tr(
-        "The password is the first line of the standard input; on a terminal it is asked "
-        "for.\n"
-        "Exit status:\n"
-        "  0  done\n"
-        "  1  failed\n"
-        "  2  the arguments make no sense, or something is missing: restic, source, "
-        "repository, password\n"
-        "  3  backed up, but for some files that could not be read\n"
-        "  4  verifying found damage\n"
-        "  5  wrong password\n"
-        "  6  the repository is locked\n");
-}
-
 bool makesSense(const QCommandLineParser &parser)
 {
     const bool isTask = parser.isSet("run")
@@ -144,7 +128,7 @@ void listSnapshots(const QJsonDocument &message)
     const QList<Snapshot> snapshots = Snapshot::allIn(message);
     for (const Snapshot &snapshot : snapshots) {
         const QStringList columns
-            = {snapshot.shortId, QLocale().toString(snapshot.time, QLocale::ShortFormat),
+            = {snapshot.id.left(8), QLocale().toString(snapshot.time, QLocale::ShortFormat),
                snapshot.host, snapshot.paths.join(", ")};
         say(stdout, columns.join("  "));
     }
@@ -218,7 +202,19 @@ int Console::run(const QStringList &arguments)
     addOptions(&parser);
     const bool isUnderstood = parser.parse(arguments);
     if (parser.isSet("help")) {
-        say(stdout, parser.helpText() + '\n' + exitStatusText());
+        say(stdout,
+            parser.helpText() + '\n'
+                + tr("The password is the first line of the standard input; on a terminal it is "
+                     "asked for.\n"
+                     "Exit status:\n"
+                     "  0  done\n"
+                     "  1  failed\n"
+                     "  2  the arguments make no sense, or something is missing: restic, source, "
+                     "repository, password\n"
+                     "  3  backed up, but for some files that could not be read\n"
+                     "  4  verifying found damage\n"
+                     "  5  wrong password\n"
+                     "  6  the repository is locked\n"));
     } else if (parser.isSet("version")) {
         say(stdout, QCoreApplication::applicationVersion());
     } else if (!isUnderstood || !makesSense(parser)) {

@@ -22,7 +22,7 @@ QStringList backUpArguments(const BackupJob &job, int kibibytesPerSecond)
     // A repository inside the source would grow by itself with each run.
     QString repository = Restic::sourcePath(job.repository);
     if (QFileInfo::exists(repository) && repository != source) {
-        const QRegularExpression special("([*?\\[\\\\])");
+        static const QRegularExpression special("([*?\\[\\\\])");
         result += {"--exclude", repository.replace(special, "\\\\1")};
     }
     return result << "--" << source;

@@ -4,11 +4,6 @@
 #include <QSettings>
 #include <QStandardPaths>
 
-JobStore::JobStore(const QString &filePath)
-    : m_filePath(filePath)
-{
-}
-
 QString JobStore::defaultFilePath()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)

@@ -25,7 +25,10 @@ class JobStore
 {
 public:
     /// The file is created, with its folder, by the first save().
-    explicit JobStore(const QString &filePath = defaultFilePath());
+    explicit JobStore(const QString &filePath = defaultFilePath())
+        : m_filePath(filePath)
+    {
+    }
     /// In the user's configuration folder.
     static QString defaultFilePath();
 

@@ -78,8 +78,10 @@ QString sizeText(qint64 bytes)
     for (; size >= 1024.0; ++unit) {
         size /= 1024.0;
     }
-    const int decimals = unit == 0 || size >= 100.0 ? 0 : 1;
-    return QLocale().toString(size, 'f', decimals) + ' ' + units.at(unit);
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    const int decimals = unit == 0 || size >= 100.0 ? 0 : size >= 10.0 ? 1 : 2;
+    return locale.toString(size, 'f', decimals) + ' ' + units.at(unit);
 }
 
 QString Outcome::text() const

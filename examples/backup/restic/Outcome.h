@@ -6,7 +6,7 @@
 #include <QMetaType>
 #include <QStringList>
 
-/// Bytes in the units of the chart, "1.5 MB" of 1024 KB, with the user's decimal point.
+/// Bytes in the units of the chart, "1.50 MB" of 1024 KB, with the user's decimal point.
 QString sizeText(qint64 bytes);
 
 /// How a run of restic, or a chain of such runs, ended. A plain value.

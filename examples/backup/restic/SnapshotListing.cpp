@@ -30,7 +30,6 @@ QList<Snapshot> Snapshot::allIn(const QJsonDocument &message)
         const QJsonObject object = value.toObject();
         Snapshot snapshot;
         snapshot.id = textOf(object, "id");
-        snapshot.shortId = textOf(object, "short_id");
         snapshot.time = timeOf(object, "time");
         snapshot.host = textOf(object, "hostname");
         snapshot.paths = object.value("paths").toVariant().toStringList();
@@ -46,7 +45,7 @@ bool SnapshotFile::read(const QByteArray &line, SnapshotFile *file)
     const QJsonObject object = QJsonDocument::fromJson(line).object();
     file->path = textOf(object, "path");
     file->type = textOf(object, "type");
-    file->permissions = textOf(object, "permissions");
+    file->permissions = static_cast<qint64>(object.value("mode").toDouble()) & 0777;
     file->size = static_cast<qint64>(object.value("size").toDouble());
     file->modified = timeOf(object, "mtime");
     return textOf(object, "struct_type") == "node" && !file->path.isEmpty();
@@ -74,7 +73,8 @@ void SnapshotListing::open(const BackupJob &job, const QString &snapshot)
         m_outcome = outcome;
         m_isWritten = true;
     });
-    m_run->start(job.repository, job.password, {"ls", "--json", "--", snapshot}, m_file.fileName());
+    m_run->start(job.repository, job.password, {"ls", "--json", "--no-lock", "--", snapshot},
+                 m_file.fileName());
 }
 
 void SnapshotListing::requestPage(int count)

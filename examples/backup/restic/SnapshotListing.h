@@ -16,7 +16,6 @@
 struct Snapshot
 {
     QString id;
-    QString shortId;
     QDateTime time;
     QString host;
     QStringList paths;
@@ -32,8 +31,7 @@ struct SnapshotFile
     QString path;
     /// "file", "dir", "symlink", ...
     QString type;
-    /// Such as "drwxr-xr-x".
-    QString permissions;
+    int permissions = 0; ///< Such as 0755.
     qint64 size = 0;
     QDateTime modified;
 

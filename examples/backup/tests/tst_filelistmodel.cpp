@@ -15,7 +15,7 @@ QByteArray line(const QByteArray &path, int size, const QByteArray &time)
 {
     return R"({"name":"x","type":"file","path":")" + path + R"(","size":)"
         + QByteArray::number(size) + R"(,"mtime":")" + time
-        + R"(","permissions":"-rw-r--r--","struct_type":"node"})" + '\n';
+        + R"(","mode":420,"struct_type":"node"})" + '\n';
 }
 
 /// A list over a snapshot whose files are what a program prints that is no restic.

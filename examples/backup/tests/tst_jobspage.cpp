@@ -31,6 +31,7 @@ private slots:
     void takesAChoiceAtOnce();
     void choosesASourceInADialog();
     void offersRepositoriesThatWereTyped();
+    void tellsReadersWhetherAJobIsVerified();
     void saysWhatAButtonIsFor_data();
     void saysWhatAButtonIsFor();
     void keepsAllColumnsInSight_data();
@@ -270,6 +271,18 @@ void tst_JobsPage::offersRepositoriesThatWereTyped()
     QVERIFY(other);
     QVERIFY(other->findText(typed) >= 0);
     QVERIFY(other->findText(window.repository()) >= 0);
+}
+
+void tst_JobsPage::tellsReadersWhetherAJobIsVerified()
+{
+    const Window window;
+    const QModelIndex cell = window.jobs()->index(0, JobModel::Verify);
+    window.jobs()->setData(cell, QString());
+    QCOMPARE(cell.data(Qt::AccessibleTextRole).toString(), QStringLiteral("Verify: no"));
+
+    window.jobs()->setData(cell, QStringLiteral("1"));
+
+    QCOMPARE(cell.data(Qt::AccessibleTextRole).toString(), QStringLiteral("Verify: yes"));
 }
 
 void tst_JobsPage::saysWhatAButtonIsFor_data()

@@ -259,6 +259,14 @@ Endstatus:
         <source>Choose a folder...</source>
         <translation>Ordner wählen ...</translation>
     </message>
+    <message>
+        <source>Verify: no</source>
+        <translation>Prüfen: nein</translation>
+    </message>
+    <message>
+        <source>Verify: yes</source>
+        <translation>Prüfen: ja</translation>
+    </message>
 </context>
 <context>
     <name>JobsPage</name>

@@ -259,6 +259,14 @@ Estado de salida:
         <source>Choose a folder...</source>
         <translation>Elegir una carpeta...</translation>
     </message>
+    <message>
+        <source>Verify: no</source>
+        <translation>Verificar: no</translation>
+    </message>
+    <message>
+        <source>Verify: yes</source>
+        <translation>Verificar: sí</translation>
+    </message>
 </context>
 <context>
     <name>JobsPage</name>

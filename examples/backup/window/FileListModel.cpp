@@ -20,16 +20,6 @@ QString typeText(const SnapshotFile &file)
     return suffix.isEmpty() ? FileListModel::tr("file") : suffix;
 }
 
-// "rwxr-xr-x" as "755": the column is narrow.
-QString octal(const QString &permissions)
-{
-    int bits = 0;
-    for (const QChar letter : permissions) {
-        bits = bits * 2 + (letter == '-' ? 0 : 1);
-    }
-    return QString::number(bits, 8).rightJustified(3, '0');
-}
-
 QString cellText(const SnapshotFile &file, int column)
 {
     switch (column) {
@@ -40,7 +30,7 @@ QString cellText(const SnapshotFile &file, int column)
     case FileListModel::Type:
         return typeText(file);
     case FileListModel::Rights:
-        return octal(file.permissions.right(9)); // before them stands the type
+        return QString("%1").arg(file.permissions, 3, 8, QChar('0')); // the column is narrow
     default:
         return file.path;
     }

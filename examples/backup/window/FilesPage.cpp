@@ -16,24 +16,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-namespace {
-
-// A repository may keep other folders, too. Where none is the job's, as on a new computer, all are
-// offered.
-QList<Snapshot> snapshotsOf(const BackupJob &job, const QList<Snapshot> &all)
-{
-    const QString source = Restic::sourcePath(job.source);
-    QList<Snapshot> some;
-    for (const Snapshot &snapshot : all) {
-        if (snapshot.paths.contains(source)) {
-            some.append(snapshot);
-        }
-    }
-    return some.isEmpty() ? all : some;
-}
-
-} // namespace
-
 FilesPage::FilesPage(BackupRun *run, QWidget *parent)
     : QWidget(parent)
     , m_run(run)
@@ -156,7 +138,9 @@ void FilesPage::load()
     m_reading.reset(new ResticRun);
     connect(m_reading.get(), &ResticRun::message, this, &FilesPage::offer);
     connect(m_reading.get(), &ResticRun::finished, this, &FilesPage::showOutcome);
-    m_reading->start(m_job.repository, m_job.password, {"snapshots", "--json", "--no-lock"});
+    m_reading->start(
+        m_job.repository, m_job.password,
+        {"snapshots", "--json", "--no-lock", "--path", Restic::sourcePath(m_job.source)});
 }
 
 void FilesPage::clear(const QString &hint)
@@ -170,10 +154,10 @@ void FilesPage::clear(const QString &hint)
 // The newest first.
 void FilesPage::offer(const QJsonDocument &message)
 {
-    const QList<Snapshot> snapshots = snapshotsOf(m_job, Snapshot::allIn(message));
+    const QList<Snapshot> snapshots = Snapshot::allIn(message);
     for (auto snapshot = snapshots.crbegin(); snapshot != snapshots.crend(); ++snapshot) {
         const QStringList texts = {QLocale().toString(snapshot->time, QLocale::ShortFormat),
-                                   snapshot->shortId, snapshot->paths.join(", ")};
+                                   snapshot->id.left(8), snapshot->paths.join(", ")};
         m_snapshots->addItem(texts.join("  "), snapshot->id);
     }
 }

@@ -33,13 +33,13 @@ BackupJob JobModel::job(int row) const
     return job;
 }
 
-QList<BackupJob> JobModel::jobs() const
+// What is painted as a check box is a "1" to screen readers.
+QVariant JobModel::data(const QModelIndex &index, int role) const
 {
-    QList<BackupJob> all;
-    for (int row = 0; row < rowCount(); ++row) {
-        all.append(job(row));
+    if (role == Qt::AccessibleTextRole && index.column() == Verify) {
+        return data(index).toString().isEmpty() ? tr("Verify: no") : tr("Verify: yes");
     }
-    return all;
+    return QStandardItemModel::data(index, role);
 }
 
 bool JobModel::setData(const QModelIndex &index, const QVariant &value, int role)

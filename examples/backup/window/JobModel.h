@@ -18,8 +18,8 @@ public:
 
     void appendJob(const BackupJob &job);
     BackupJob job(int row) const;
-    QList<BackupJob> jobs() const;
 
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
 signals:

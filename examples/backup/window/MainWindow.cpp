@@ -100,7 +100,11 @@ QLayout *MainWindow::makeRunPanel()
 
 void MainWindow::save()
 {
-    if (!m_store.save(m_jobs->jobs())) {
+    QList<BackupJob> jobs;
+    for (int row = 0; row < m_jobs->rowCount(); ++row) {
+        jobs.append(m_jobs->job(row));
+    }
+    if (!m_store.save(jobs)) {
         statusBar()->showMessage(tr("The list of backups could not be saved."));
     }
 }

@@ -2,6 +2,7 @@
 #ifndef TRANSLATORS_H
 #define TRANSLATORS_H
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QTranslator>
 
@@ -11,7 +12,17 @@
 class Translators
 {
 public:
-    Translators(const QString &programFolder, const QLocale &locale);
+    Translators(const QString &programFolder, const QLocale &locale)
+    {
+        QLocale::setDefault(locale);
+        // Without a translation they are empty, and the texts stay English.
+        (void)m_translators[0].load(locale, "qtbase", "_", QT_TRANSLATIONS);
+        (void)m_translators[1].load(locale, "tessaline", "_", TESSALINE_TRANSLATIONS);
+        (void)m_translators[2].load(locale, "backup", "_", programFolder + "/translations");
+        for (QTranslator &translator : m_translators) {
+            QCoreApplication::installTranslator(&translator);
+        }
+    }
 
 private:
     QTranslator m_translators[3];
