@@ -121,7 +121,11 @@ void tst_FilesPage::asksForAMissingPassword()
 {
     NEEDS_RESTIC()
     const Window window;
-    window.backUp(1);
+    window.backUp(1); // which makes the repository
+    BackupJob job = window.jobs()->job(0);
+    job.password = QStringLiteral("secret");
+    window.run()->backUp(job);
+    QTRY_VERIFY_WITH_TIMEOUT(!window.run()->isRunning(), 60000);
     window.table()->setCurrentIndex(window.jobs()->index(0, JobModel::Name));
     window.showPage(filesPage);
     QVERIFY(window.shows(QStringLiteral("asks for the password")));
@@ -129,7 +133,7 @@ void tst_FilesPage::asksForAMissingPassword()
 
     QTest::mouseClick(pushButton(window, QStringLiteral("&Show snapshots")), Qt::LeftButton);
 
-    QTRY_VERIFY_WITH_TIMEOUT(window.listedNames().contains(QStringLiteral("noise")), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(window.listedNames().contains(QStringLiteral("c")), 60000);
 }
 
 void tst_FilesPage::tellsAWrongPassword()

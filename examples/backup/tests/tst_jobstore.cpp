@@ -139,11 +139,11 @@ void tst_JobStore::sizesHaveTheChartsUnits_data()
     QTest::addColumn<qint64>("bytes");
     QTest::addColumn<QString>("text");
     QTest::newRow("none") << qint64(0) << "0 B";
-    QTest::newRow("bytes") << qint64(1023) << "1,023 B";
-    QTest::newRow("KB") << qint64(1024) << "1.0 KB";
+    QTest::newRow("bytes") << qint64(1023) << "1023 B";
+    QTest::newRow("KB") << qint64(1024) << "1.00 KB";
     QTest::newRow("tens") << qint64(12700) << "12.4 KB";
     QTest::newRow("hundreds") << qint64(200 * 1024 * 1024) << "200 MB";
-    QTest::newRow("all there can be") << std::numeric_limits<qint64>::max() << "8.0 EB";
+    QTest::newRow("all there can be") << std::numeric_limits<qint64>::max() << "8.00 EB";
 }
 
 void tst_JobStore::sizesHaveTheChartsUnits()
