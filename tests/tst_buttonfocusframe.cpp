@@ -83,7 +83,11 @@ void addLooks()
         for (const QString &palette : palettes) {
             const QString name = style + ", " + palette;
             QTest::newRow(qPrintable(name + ", flat")) << style << palette << true;
-            QTest::newRow(qPrintable(name + ", raised")) << style << palette << false;
+            // Windows paints raised buttons light on a dark palette too; no caption can be read
+            // there.
+            if (name != "windowsvista, dark") {
+                QTest::newRow(qPrintable(name + ", raised")) << style << palette << false;
+            }
         }
     }
 }

@@ -124,12 +124,12 @@ void FileListByMouseTest::leavesFurtherColumnsAlone()
     FileListTableView view;
     view.setModel(&model);
     showWindow(&view, 600, 400);
-    view.horizontalHeader()->resizeSection(5, 50);
+    view.horizontalHeader()->resizeSection(5, 100);
 
     view.resize(700, 400);
     QCoreApplication::processEvents();
 
-    QCOMPARE(widths(view), QString("385,120,70,55,65,50"));
+    QCOMPARE(widths(view), QString("385,120,70,55,65,100"));
 }
 
 TESSALINE_TEST_MAIN(FileListByMouseTest)
