@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "ButtonTable.h"
 #include "PlainObject.h"
+#include "QtCompat.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
@@ -34,6 +35,8 @@ void TableDefaultsTest::makesItsColumnHeaderAsTheToolkitDoes()
     const EditableTableView view;
     const QTableView plain;
     plain.horizontalHeader()->move(view.horizontalHeader()->pos());
+    // A header that can't be clicked is the table's own; newer Qt have a property for it.
+    compat::setSectionsClickable(plain.horizontalHeader(), false);
 
     QCOMPARE(differences(*view.horizontalHeader(), *plain.horizontalHeader()),
              QString("highlightSections"));
