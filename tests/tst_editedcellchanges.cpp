@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "EditorFixture.h"
+#include "TableInEdit.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
@@ -224,16 +225,7 @@ void EditedCellChangesTest::writesNothingOverItsLikeThatCameUnnoticed()
 
 void EditedCellChangesTest::staysOverItsCellWhenThatChangesItsSize_data()
 {
-    QTest::addColumn<QString>("declaration");
-
-    const QStringList editors = QStringList() << "combobox"
-                                              << "editcombobox"
-                                              << "editbox"
-                                              << "passwordbox"
-                                              << "checkbox";
-    for (const QString &declaration : editors) {
-        QTest::newRow(qPrintable(declaration)) << declaration;
-    }
+    addRowsForTheEditors();
 }
 
 void EditedCellChangesTest::staysOverItsCellWhenThatChangesItsSize()
