@@ -13,6 +13,7 @@
 #include <QStyle>
 #include <QStyleFactory>
 
+#include <cmath>
 #include <cstdlib>
 
 namespace {
@@ -223,7 +224,8 @@ void ButtonFocusFrameTest::leavesThePictureInsideTheFrameToQt()
 
     QTest::keyClick(window.field, Qt::Key_Tab);
 
-    const QRect inside = painted.rect().adjusted(2, 2, -2, -2);
+    const int frame = int(std::ceil(2 * compat::pixelRatio(*window.button)));
+    const QRect inside = painted.rect().adjusted(frame, frame, -frame, -frame);
     QCOMPARE(window.picture().copy(inside), painted.copy(inside));
 }
 
