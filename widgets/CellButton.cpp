@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QPainter>
 #include <QPalette>
+#include <QRect>
 #include <QRegion>
 
 namespace {
