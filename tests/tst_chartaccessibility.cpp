@@ -5,6 +5,7 @@
 #include "UpdatablePlot.h"
 
 #include <QAccessible>
+#include <QAccessibleWidget>
 #include <QDateTime>
 
 namespace {
@@ -31,6 +32,24 @@ QDateTime pretendedTime()
     return PlotClock::startTimeUtc.addSecs(pretendedSecond);
 }
 
+class DerivedPlot : public UpdatablePlot
+{
+    Q_OBJECT
+};
+
+/// One that the application has an interface for.
+class DrawnPlot : public UpdatablePlot
+{
+    Q_OBJECT
+};
+
+QAccessibleInterface *interfaceOfDrawnPlot(const QString &className, QObject *object)
+{
+    return className == QLatin1String(DrawnPlot::staticMetaObject.className())
+        ? new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Graphic)
+        : nullptr;
+}
+
 } // namespace
 
 class ChartAccessibilityTest : public TestCase
@@ -51,11 +70,15 @@ private Q_SLOTS:
     void canNotBeSet();
     void leavesOtherWidgetsToQt();
     void leavesPlotsThatAreNotItsOwnToQt();
+    void readsADerivedChart();
+    void leavesADerivedChartToItsOwnInterface();
 };
 
 void ChartAccessibilityTest::initTestCase()
 {
     PlotClock::currentDateTime = pretendedTime;
+    // Before there is a chart: Qt asks last for what was installed first.
+    QAccessible::installFactory(interfaceOfDrawnPlot);
 }
 
 void ChartAccessibilityTest::isAChart()
@@ -175,6 +198,22 @@ void ChartAccessibilityTest::leavesPlotsThatAreNotItsOwnToQt()
 
     QVERIFY(!interfaceOf(&plot)->valueInterface());
     QVERIFY(int(interfaceOf(&plot)->role()) != int(QAccessible::Chart));
+}
+
+void ChartAccessibilityTest::readsADerivedChart()
+{
+    DerivedPlot plot;
+    plot.updateData(5000);
+
+    QCOMPARE(int(interfaceOf(&plot)->role()), int(QAccessible::Chart));
+    QCOMPARE(currentValue(&plot), 5000.0);
+}
+
+void ChartAccessibilityTest::leavesADerivedChartToItsOwnInterface()
+{
+    DrawnPlot plot;
+
+    QCOMPARE(int(interfaceOf(&plot)->role()), int(QAccessible::Graphic));
 }
 
 TESSALINE_TEST_MAIN(ChartAccessibilityTest)

@@ -18,10 +18,10 @@
 #include <QVariant>
 
 /// Reads the samples of a chart. Its value can't be set.
-class ChartInterface : public QAccessibleWidget, public QAccessibleValueInterface
+class UpdatablePlotInterface : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
-    explicit ChartInterface(UpdatablePlot *chart)
+    explicit UpdatablePlotInterface(UpdatablePlot *chart)
         : QAccessibleWidget(chart, QAccessible::Chart)
         , plot(chart)
     {
@@ -72,10 +72,14 @@ private:
 namespace {
 
 // One program may hold this code twice, linked and in the plug-in: each answers for its own charts.
-QAccessibleInterface *interfaceOf(const QString &, QObject *object)
+QAccessibleInterface *interfaceOf(const QString &className, QObject *object)
 {
+    // Qt asks for a derived class first, for which the application may have an interface.
+    if (className != QLatin1String(UpdatablePlot::staticMetaObject.className())) {
+        return nullptr;
+    }
     UpdatablePlot *plot = qobject_cast<UpdatablePlot *>(object);
-    return plot ? new ChartInterface(plot) : nullptr;
+    return plot ? new UpdatablePlotInterface(plot) : nullptr;
 }
 
 /// Goes when the program ends or the plug-in is unloaded, before what Qt notes factories in.

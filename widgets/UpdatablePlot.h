@@ -89,7 +89,7 @@ private:
                        const QRectF &canvasRect, int from, int to) const;
     };
 
-    friend class ChartInterface; ///< Tells screen readers the samples.
+    friend class UpdatablePlotInterface; ///< Tells screen readers the samples.
 
     void drawAnew();
     void setUpTimeAxis();
