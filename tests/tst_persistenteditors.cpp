@@ -7,13 +7,28 @@
 
 namespace {
 
-/// Notes what it is told to do with what was written, as models of a database are.
+/// Notes what it is told to do with what was written, as models of a database are. It may refuse
+/// what is written, and have the focus taken meanwhile, as by a dialog that tells the user.
 class CollectingModel : public RecordingModel
 {
 public:
     CollectingModel()
         : RecordingModel(3, 3)
+        , refuses(false)
+        , dialog(nullptr)
     {
+    }
+
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override
+    {
+        if (!refuses) {
+            return RecordingModel::setData(index, value, role);
+        }
+        writes.append("refused " + value.toString());
+        if (dialog) {
+            dialog->setFocus();
+        }
+        return false;
     }
 
     bool submit() override
@@ -28,6 +43,8 @@ public:
     }
 
     QStringList orders;
+    bool refuses;
+    QWidget *dialog;
 };
 
 struct Table
@@ -65,6 +82,8 @@ private Q_SLOTS:
     void areClosedThoughTheSameColumnsAreDeclared();
     void areOutOfSightAtOnce();
     void areNotCommittedAgainWhenTheyGo();
+    void areCommittedOnceWhereTheModelRefuses_data();
+    void areCommittedOnceWhereTheModelRefuses();
     void handTheFocusToTheTable_data();
     void handTheFocusToTheTable();
     void leaveTheFocusOfOthersAlone();
@@ -135,6 +154,40 @@ void PersistentEditorsTest::areNotCommittedAgainWhenTheyGo()
     goThroughEvents();
 
     QCOMPARE(table.model.writes, QStringList("edit typed"));
+}
+
+void PersistentEditorsTest::areCommittedOnceWhereTheModelRefuses_data()
+{
+    QTest::addColumn<bool>("persistent");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<bool>("asks");
+
+    QTest::newRow("persistent") << true << 0 << false;
+    QTest::newRow("persistent, by a dialog") << true << 0 << true;
+    QTest::newRow("persistent, a password") << true << 2 << false;
+    QTest::newRow("opened by key") << false << 0 << false;
+    QTest::newRow("opened by key, by a dialog") << false << 0 << true;
+    QTest::newRow("opened by key, a password, by a dialog") << false << 2 << true;
+}
+
+void PersistentEditorsTest::areCommittedOnceWhereTheModelRefuses()
+{
+    QFETCH(bool, persistent);
+    QFETCH(int, column);
+    QFETCH(bool, asks);
+    Table table;
+    const QPointer<QWidget> editor = persistent
+        ? table.type(1, "", column)
+        : QPointer<QWidget>(openEditor(&table.view, table.model.index(1, column)));
+    editor->setFocus();
+    QTest::keyClicks(editor, "typed");
+    table.model.refuses = true;
+    table.model.dialog = asks ? table.view.button(0, 1) : nullptr;
+
+    table.view.setColumns(QStringList());
+    goThroughEvents();
+
+    QCOMPARE(table.model.writes.count("refused typed"), 1);
 }
 
 void PersistentEditorsTest::handTheFocusToTheTable_data()

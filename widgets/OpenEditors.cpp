@@ -37,7 +37,10 @@ void commit(QAbstractItemView *view, const QMap<int, QItemDelegate *> &delegates
     if (isOpen(view, editor) && !CellEditor::Commit::isUnderWay(editor)) {
         // Not by commitData(): while another editor is committed that does nothing.
         const QPersistentModelIndex cell = CellEditor::cellOf(editor);
-        if (const QItemDelegate *delegate = delegates.value(cell.column())) {
+        if (QItemDelegate *delegate = delegates.value(cell.column())) {
+            // It would commit once more when the editor loses the focus, by being closed or to a
+            // dialog with which the model answers.
+            editor->removeEventFilter(delegate);
             delegate->setModelData(editor, view->model(), cell);
         }
     }
