@@ -52,7 +52,7 @@ void connectByPointer(EditableTableView *table, JobsWindow *window);
 QStringList translatedColumns();
 bool installTranslators(QTranslator *library, QTranslator *application, const QString &language);
 void paintButtons(EditableTableView *view, int column, QObject *receiver, const char *slot);
-void nameButtons(EditableTableView *view, QAbstractItemModel *jobs, int column);
+void nameButtons(EditableTableView *view, const QAbstractItemModel *jobs, int column);
 void showJobsWith(const QString &text, QSortFilterProxyModel *jobs, EditableTableView *view);
 void keepAllButtons(EditableTableView *view);
 void showHint(SpinBox *limit, QObject *hint);

@@ -8,14 +8,12 @@
 namespace samples {
 
 //! [names]
-void nameButtons(EditableTableView *view, QAbstractItemModel *jobs, int column)
+void nameButtons(EditableTableView *view, const QAbstractItemModel *jobs, int column)
 {
     view->setAccessibleName(QObject::tr("Backups"));
     for (int row = 0; row < jobs->rowCount(); ++row) {
         const QString name = QObject::tr("Run %1").arg(jobs->index(row, 0).data().toString());
-        view->button(row, column)->setAccessibleName(name); // who reaches the button hears this
-        jobs->setData(jobs->index(row, column), name,
-                      Qt::AccessibleTextRole); // who reads the cells
+        view->button(row, column)->setAccessibleName(name);
     }
 }
 //! [names]
