@@ -13,9 +13,20 @@ namespace {
 /// Something done to a chart and a bare plot alike.
 typedef void (*Change)(QwtPlot *plot);
 
+/// A recording as large as a screen, as a printer is: the chart can't tell by its size that it has
+/// no pixels.
+class LargePicture : public QPicture
+{
+protected:
+    int metric(PaintDeviceMetric which) const override
+    {
+        return which == PdmWidth || which == PdmHeight ? 2000 : QPicture::metric(which);
+    }
+};
+
 template <class Plot> QByteArray recordedCanvas(Plot *plot)
 {
-    QPicture picture;
+    LargePicture picture;
     QPainter painter(&picture);
     plot->drawCanvas(&painter);
     painter.end();
