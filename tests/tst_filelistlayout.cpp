@@ -3,6 +3,7 @@
 #include "ShownList.h"
 #include "TestCase.h"
 
+#include <QFont>
 #include <QScrollBar>
 
 class FileListLayoutTest : public TestCase
@@ -17,6 +18,16 @@ private Q_SLOTS:
     void leavesHeaderAndFrameOutOfAccount();
     void showsTheInitialWidthsUntilTheWidthChanges();
     void restoresTheFixedColumnsWhenTheWidthChanges();
+    void keepsTheInitialWidthsOfAListWithoutWidth();
+    void fitsTheColumnsOfAModelThatComesToAShownList();
+    void keepsItsWidthsFromASessionToItsPage();
+    void countsHiddenRowsForTheScrollBar();
+    void placesHiddenColumnsToo();
+    void keepsItsFixedColumnsUnderALargeFont();
+    void staysWhereItIsScrolledWhenAPageComes_data();
+    void staysWhereItIsScrolledWhenAPageComes();
+    void turnsTheOrderAcrossSessions();
+    void hidesTheSortArrowOfAListThatDoesNotSort();
     void adjustsTheColumnsAfterAPage();
     void adjustsTheColumnsWithoutThePagingRow();
     void leavesAResizeToThePlainWidgetHandler();
@@ -244,6 +255,136 @@ void FileListLayoutTest::hidesASortArrowThatAnApplicationShows()
 {
     List list;
     list.fill(3);
+    list.view.horizontalHeader()->setSortIndicatorShown(true);
+
+    list.clickHeader(0);
+
+    QVERIFY(!list.view.horizontalHeader()->isSortIndicatorShown());
+}
+
+void FileListLayoutTest::keepsTheInitialWidthsOfAListWithoutWidth()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.resize(0, 100);
+    view.setModel(&model);
+
+    view.FinishLoadingData(0, false);
+
+    QCOMPARE(widths(view), QString("320,120,70,55,65"));
+}
+
+void FileListLayoutTest::fitsTheColumnsOfAModelThatComesToAShownList()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.horizontalHeader()->hide(); // which would resize the viewport as it gets its columns
+    showWindow(&view, 600, 400);
+    view.setModel(&model);
+
+    view.FinishLoadingData(0, false);
+
+    QCOMPARE(widths(view), QString("285,120,70,55,65"));
+}
+
+void FileListLayoutTest::keepsItsWidthsFromASessionToItsPage()
+{
+    PagedModel model;
+    FileListTableView view;
+    view.resize(600, 100);
+    view.setModel(&model);
+    model.deliver(20, false); // more than fit
+    const QString before = widths(view);
+
+    model.changeSession();
+
+    QCOMPARE(widths(view), before);
+    model.deliver(1, false);
+    QCOMPARE(widths(view), QString("285,120,70,55,65"));
+}
+
+void FileListLayoutTest::countsHiddenRowsForTheScrollBar()
+{
+    List list;
+    list.fill(30); // more than fit
+    const int bar = list.view.verticalScrollBar()->width();
+    for (int row = 0; row < 20; ++row) {
+        list.view.hideRow(row);
+    }
+    QTRY_VERIFY(!list.view.verticalScrollBar()->isVisible());
+
+    list.view.FinishLoadingData(0, false);
+
+    QCOMPARE(list.view.horizontalHeader()->sectionSize(0), 285 - bar);
+}
+
+void FileListLayoutTest::placesHiddenColumnsToo()
+{
+    List list;
+    setWidths(&list.view, "285,120,200,55,65");
+    list.view.hideColumn(2);
+
+    list.view.resize(601, 400);
+    QCoreApplication::processEvents();
+
+    list.view.showColumn(2);
+    QCOMPARE(widths(list.view), QString("286,120,70,55,65"));
+}
+
+void FileListLayoutTest::keepsItsFixedColumnsUnderALargeFont()
+{
+    List list;
+    QFont large = list.view.horizontalHeader()->font();
+    large.setPixelSize(150); // sections would be as wide as its widest character
+    list.view.horizontalHeader()->setFont(large);
+
+    list.view.resize(601, 400);
+    QCoreApplication::processEvents();
+
+    QCOMPARE(widths(list.view), QString("286,120,70,55,65"));
+}
+
+void FileListLayoutTest::staysWhereItIsScrolledWhenAPageComes_data()
+{
+    QTest::addColumn<bool>("completed");
+
+    QTest::newRow("more to come") << false;
+    QTest::newRow("the last page") << true;
+}
+
+void FileListLayoutTest::staysWhereItIsScrolledWhenAPageComes()
+{
+    QFETCH(bool, completed);
+    List list;
+    list.fill(60);
+    list.view.setCurrentIndex(list.model.index(0, 0)); // else it is the button's, which goes
+    list.view.verticalScrollBar()->setValue(5);
+    QCOMPARE(list.view.verticalScrollBar()->value(), 5);
+
+    list.model.deliver(3, completed);
+    QCoreApplication::processEvents();
+
+    QCOMPARE(list.view.verticalScrollBar()->value(), 5);
+}
+
+void FileListLayoutTest::turnsTheOrderAcrossSessions()
+{
+    List list;
+    list.fill(1);
+    list.clickHeader(0);
+    list.model.changeSession();
+    list.model.deliver(2, false);
+
+    list.clickHeader(0);
+
+    QCOMPARE(texts(list.model, 0), QString("file2,file1,"));
+}
+
+void FileListLayoutTest::hidesTheSortArrowOfAListThatDoesNotSort()
+{
+    List list;
+    list.fill(3);
+    list.view.setSortingEnabled(false);
     list.view.horizontalHeader()->setSortIndicatorShown(true);
 
     list.clickHeader(0);
