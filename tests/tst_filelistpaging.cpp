@@ -3,7 +3,10 @@
 #include "ShownList.h"
 #include "TestCase.h"
 
+#include <QDialog>
 #include <QPointer>
+#include <QPushButton>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -19,6 +22,26 @@ protected:
             : source == "loading..."    ? QString("wird geladen")
                                         : QString();
     }
+};
+
+class OneTranslation : public compat::Translator
+{
+public:
+    OneTranslation(const QByteArray &sourceText, const QString &translatedText)
+        : known(sourceText)
+        , translation(translatedText)
+    {
+    }
+
+protected:
+    QString find(const QByteArray &context, const QByteArray &source) const override
+    {
+        return context == "FileListTableView" && source == known ? translation : QString();
+    }
+
+private:
+    const QByteArray known;
+    const QString translation;
 };
 
 } // namespace
@@ -37,6 +60,11 @@ private Q_SLOTS:
     void removesButtonAndRowAfterTheLastPage();
     void labelsTheButtonEvenWhenItGoes();
     void translatesItsLabels();
+    void translatesTheKeyOfItsLabelOnly_data();
+    void translatesTheKeyOfItsLabelOnly();
+    void takesAnEmptyTranslationOfItsLabel();
+    void keepsTheFocusOnItsButtonWhileAPageIsOnItsWay();
+    void asksForAPageByEnterInADialog();
     void startsAnewWhenTheSessionChanges();
     void asksForNoSecondPageWhenTheSessionChangesWhileLoading();
     void startsAnewAfterTheLastPage();
@@ -219,6 +247,78 @@ void FileListPagingTest::goesOnAfterAnAnswerAtOnce()
     list.click();
 
     QCOMPARE(list.paging(), QString("4 Next >>"));
+}
+
+void FileListPagingTest::translatesTheKeyOfItsLabelOnly_data()
+{
+    QTest::addColumn<QByteArray>("source");
+    QTest::addColumn<QString>("translation");
+    QTest::addColumn<QString>("paging");
+
+    const QByteArray key("Common::Next");
+    QTest::newRow("with a shortcut") << key << "&Weiter"
+                                     << "1 &Weiter >>";
+    QTest::newRow("the plain word") << QByteArray("Next") << "Weiter"
+                                    << "1 Next >>";
+}
+
+void FileListPagingTest::translatesTheKeyOfItsLabelOnly()
+{
+    QFETCH(QByteArray, source);
+    QFETCH(QString, translation);
+    List list;
+    OneTranslation translator(source, translation);
+    QCoreApplication::installTranslator(&translator);
+
+    list.model.deliver(1, false);
+
+    QCoreApplication::removeTranslator(&translator);
+    QTEST(list.paging(), "paging");
+}
+
+void FileListPagingTest::takesAnEmptyTranslationOfItsLabel()
+{
+    List list;
+    OneTranslation translator("Common::Next", "");
+    QCoreApplication::installTranslator(&translator);
+
+    list.model.deliver(1, false);
+
+    const bool counts = FileListTableView::tr("Common::Next").isEmpty(); // since Qt 5
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(list.paging(), QString(counts ? "1  >>" : "1 Next >>"));
+}
+
+void FileListPagingTest::keepsTheFocusOnItsButtonWhileAPageIsOnItsWay()
+{
+    List list;
+    list.button()->setFocus();
+
+    QTest::keyClick(list.button(), Qt::Key_Space);
+
+    QCOMPARE(list.paging(), QString("0 loading..."));
+    QVERIFY(list.button()->hasFocus());
+}
+
+void FileListPagingTest::asksForAPageByEnterInADialog()
+{
+    PagedModel model;
+    QDialog dialog;
+    FileListTableView *view = new FileListTableView;
+    QPushButton *close = new QPushButton("Close");
+    close->setDefault(true);
+    QVBoxLayout *layout = new QVBoxLayout(&dialog);
+    layout->addWidget(view);
+    layout->addWidget(close);
+    view->setModel(&model);
+    showWindow(&dialog, 600, 400);
+    QSignalSpy spy(close, SIGNAL(clicked()));
+    view->indexWidget(model.index(0, 0))->setFocus();
+
+    QTest::keyClick(view->indexWidget(model.index(0, 0)), Qt::Key_Return);
+
+    QCOMPARE(model.requests, 1);
+    QCOMPARE(spy.count(), 0);
 }
 
 TESSALINE_TEST_MAIN(FileListPagingTest)
