@@ -58,6 +58,9 @@ private Q_SLOTS:
     void leavesCallsQueuedThatAreForOthers();
     void leavesEventsQueuedThatAreNoCalls();
     void putsOffARequestThatWasQueuedUntilTheNextModelIsThere();
+    void putsOffARequestThatWasQueuedWhileAPageWasOnItsWay();
+    void leavesTheApplicationsOwnConnections_data();
+    void leavesTheApplicationsOwnConnections();
 };
 
 void FileListCutOffTest::waitsForAPageAfterItsModelWasTakenAway()
@@ -166,6 +169,48 @@ void FileListCutOffTest::putsOffARequestThatWasQueuedUntilTheNextModelIsThere()
     QCOMPARE(spy.count(), 0);
     QTRY_COMPARE(second.requests, 1);
     QCOMPARE(list.model.requests, 0);
+}
+
+void FileListCutOffTest::putsOffARequestThatWasQueuedWhileAPageWasOnItsWay()
+{
+    List list;
+    PagedModel second;
+    list.click();
+    QMetaObject::invokeMethod(&list.view, "StartLoadingData", Qt::QueuedConnection);
+
+    list.view.setModel(&second);
+
+    QTRY_COMPARE(second.requests, 1);
+    QCOMPARE(list.model.requests, 1);
+}
+
+void FileListCutOffTest::leavesTheApplicationsOwnConnections_data()
+{
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<bool>("isTakenAway");
+
+    const QByteArray session(SIGNAL(dataChanged()));
+    const QByteArray page(SIGNAL(pageLoaded(qint64,bool)));
+    QTest::newRow("session, replaced") << session << false;
+    QTest::newRow("session, taken away") << session << true;
+    QTest::newRow("page, replaced") << page << false;
+    QTest::newRow("page, taken away") << page << true;
+}
+
+void FileListCutOffTest::leavesTheApplicationsOwnConnections()
+{
+    QFETCH(QByteArray, signal);
+    QFETCH(bool, isTakenAway);
+    List list;
+    PagedModel second;
+    QObject::connect(&list.model, signal.constData(), &list.view, SLOT(hide()));
+
+    list.view.setModel(isTakenAway ? nullptr : &second);
+
+    QVERIFY(list.view.isVisible());
+    list.model.announce(0, false);
+    list.model.changeSession();
+    QVERIFY(!list.view.isVisible());
 }
 
 TESSALINE_TEST_MAIN(FileListCutOffTest)
