@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScopedPointer>
 #include <QStandardItemModel>
 
@@ -65,6 +66,7 @@ private Q_SLOTS:
     void makesASpinBoxAsTheToolkitDoes();
     void makesAFileListAsTheToolkitDoes();
     void makesTheHeaderOfAFileListAsTheToolkitDoes();
+    void makesTheButtonOfAFileListAsTheToolkitDoes();
 };
 
 void ToolkitDefaultsTest::makesAComboBoxAsTheToolkitDoes()
@@ -140,6 +142,21 @@ void ToolkitDefaultsTest::makesTheHeaderOfAFileListAsTheToolkitDoes()
 
     QCOMPARE(differences(*view.horizontalHeader(), *plain.horizontalHeader()),
              QString("highlightSections"));
+    QVERIFY(!compat::sectionsMovable(view.horizontalHeader()));
+}
+
+void ToolkitDefaultsTest::makesTheButtonOfAFileListAsTheToolkitDoes()
+{
+    QStandardItemModel model(0, 5);
+    FileListTableView view;
+    tolerateWarnings("Object::connect"); // the model has no pages
+    tolerateWarnings("QObject::connect");
+    view.setModel(&model);
+    const QWidget *button = view.indexWidget(model.index(0, 0));
+    const Plain<QPushButton> plain;
+
+    QVERIFY(button);
+    QCOMPARE(differences(*button, *plain.widget), QString("autoFillBackground"));
 }
 
 TESSALINE_TEST_MAIN(ToolkitDefaultsTest)
