@@ -80,6 +80,8 @@ private Q_SLOTS:
     void leavesAllAsItIsWhenAPersistentEditorIsClosed();
     void announcesNoCurrentCellWhenClickedFromAnEditor();
     void announcesThatTheTableLosesTheFocus();
+    void keepsTheCellThatTheEndOfAnEditMovesTo();
+    void announcesThatTheFileListLosesTheFocus();
     void leavesTheCellOfAnotherWidgetToTheTable();
     void leavesTheCurrentCellOfTheFileListAsItIs_data();
     void leavesTheCurrentCellOfTheFileListAsItIs();
@@ -302,6 +304,48 @@ void ButtonFocusTest::leavesTheCurrentCellOfTheFileListAsItIsWhenClickedFromAnEd
     click(list.button());
 
     QCOMPARE(stateOf(list.view), before);
+}
+
+void ButtonFocusTest::keepsTheCellThatTheEndOfAnEditMovesTo()
+{
+    LongTable table;
+    table.view.setCurrentIndex(table.model.index(1, 0));
+    table.view.openPersistentEditor(table.model.index(3, 0));
+    QWidget *editor = table.view.indexWidget(table.model.index(3, 0));
+    click(table.button(4));
+
+    QMetaObject::invokeMethod(
+        &table.view, "closeEditor", Q_ARG(QWidget *, editor),
+        Q_ARG(QAbstractItemDelegate::EndEditHint, QAbstractItemDelegate::EditNextItem));
+
+    QVERIFY(table.view.currentIndex() != table.model.index(1, 0));
+    QVERIFY(table.view.indexWidget(table.view.currentIndex())); // it is edited
+}
+
+void ButtonFocusTest::announcesThatTheFileListLosesTheFocus()
+{
+    class NotingList : public FileListTableView
+    {
+    public:
+        int focusOuts = 0;
+
+    protected:
+        void focusOutEvent(QFocusEvent *event) override
+        {
+            ++focusOuts;
+            FileListTableView::focusOutEvent(event);
+        }
+    };
+    PagedModel model;
+    NotingList view;
+    view.setModel(&model);
+    model.insertPage(1);
+    showWindow(&view, 600, 200);
+    view.setFocus();
+
+    click(view.indexWidget(model.index(1, 0)));
+
+    QCOMPARE(view.focusOuts, 1);
 }
 
 TESSALINE_TEST_MAIN(ButtonFocusTest)
