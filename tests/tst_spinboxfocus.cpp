@@ -3,6 +3,7 @@
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void keepsTheFocusThatItDoesNotAnnounce();
     void keepsWhatIsSelectedWhenTheWindowIsActivated();
     void announcesNothingWhenItIsDisabled();
+    void announcesNothingOfAnEventWithoutAReason();
 
 public Q_SLOTS:
     void noteValue();
@@ -143,6 +145,17 @@ void SpinBoxFocusTest::announcesNothingWhenItIsDisabled()
 
     QTest::keyClick(form.field, Qt::Key_Tab);
     QTest::mouseClick(form.spinBox, Qt::LeftButton);
+
+    QCOMPARE(spy.count(), 0);
+}
+
+void SpinBoxFocusTest::announcesNothingOfAnEventWithoutAReason()
+{
+    SpinBox spinBox;
+    QSignalSpy spy(&spinBox, SIGNAL(focused()));
+    QFocusEvent event(QEvent::FocusIn, Qt::NoFocusReason); // which setFocus() does not send
+
+    QApplication::sendEvent(&spinBox, &event);
 
     QCOMPARE(spy.count(), 0);
 }
