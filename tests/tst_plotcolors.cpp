@@ -37,6 +37,7 @@ private Q_SLOTS:
     void takesTheSameBackgroundOverWhatTheApplicationPainted();
     void takesTheSameCurveColorOverWhatTheApplicationDrew();
     void leavesTheCurveAloneWhenTheBackgroundChanges();
+    void leavesTheStyleOfTheCurveToTheApplication();
     void leavesTheBackgroundAloneWhenTheCurveChanges();
 };
 
@@ -210,6 +211,17 @@ void PlotColorsTest::leavesTheBackgroundAloneWhenTheCurveChanges()
     plot.setCurveColor("red");
 
     QCOMPARE(plot.bgColor(), QString("#0000ff"));
+}
+
+void PlotColorsTest::leavesTheStyleOfTheCurveToTheApplication()
+{
+    UpdatablePlot plot(nullptr);
+    QwtPlotCurve &curve = const_cast<QwtPlotCurve &>(compat::curveOf(plot));
+    curve.setStyle(QwtPlotCurve::Steps);
+
+    plot.setCurveColor("red");
+
+    QCOMPARE(int(curve.style()), int(QwtPlotCurve::Steps));
 }
 
 TESSALINE_TEST_MAIN(PlotColorsTest)

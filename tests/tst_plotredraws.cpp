@@ -7,6 +7,7 @@
 #include "TestCase.h"
 #include "TimeScaleDraw.h"
 #include "UpdatablePlot.h"
+#include "ViewHelpers.h"
 
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_layout.h>
@@ -51,6 +52,8 @@ private Q_SLOTS:
     void initTestCase();
     void isDrawnOnceForEachSample();
     void isDrawnForTheSameSampleAgain();
+    void followsItsSamplesWhileItIsNotSeen_data();
+    void followsItsSamplesWhileItIsNotSeen();
     void isNotDrawnForAnInvalidValue();
     void isDrawnForTheCurveColorOnly_data();
     void isDrawnForTheCurveColorOnly();
@@ -222,6 +225,8 @@ void PlotRedrawsTest::isAPlotWithItsDefaults()
     QCOMPARE(plot.plotLayout()->canvasMargin(QwtPlot::yLeft),
              plain.plotLayout()->canvasMargin(QwtPlot::yLeft));
     QCOMPARE(plot.canvas()->isEnabled(), plain.canvas()->isEnabled());
+    QCOMPARE(plot.axisMaxMinor(QwtPlot::xBottom), plain.axisMaxMinor(QwtPlot::xBottom));
+    QCOMPARE(plot.axisMaxMinor(QwtPlot::yLeft), plain.axisMaxMinor(QwtPlot::yLeft));
 }
 
 void PlotRedrawsTest::drawsItsCurveOverTheGrid()
@@ -240,6 +245,35 @@ void PlotRedrawsTest::drawsItsCurveOverTheGrid()
     QCOMPARE(int(curve.yAxis()), int(QwtPlot::yLeft));
     QCOMPARE(int(grid->yAxis()), int(QwtPlot::yLeft));
     QVERIFY(!curve.testRenderHint(QwtPlotItem::RenderAntialiased));
+}
+
+void PlotRedrawsTest::followsItsSamplesWhileItIsNotSeen_data()
+{
+    QTest::addColumn<bool>("isHeldBack");
+    QTest::addColumn<bool>("isMinimized");
+    QTest::addColumn<bool>("isDisabled");
+
+    QTest::newRow("updates are held back") << true << false << false;
+    QTest::newRow("the window is minimised") << false << true << false;
+    QTest::newRow("disabled") << false << false << true;
+}
+
+void PlotRedrawsTest::followsItsSamplesWhileItIsNotSeen()
+{
+    QFETCH(bool, isHeldBack);
+    QFETCH(bool, isMinimized);
+    QFETCH(bool, isDisabled);
+    UpdatablePlot plot;
+    showWindow(&plot, 300, 200);
+    plot.setUpdatesEnabled(!isHeldBack);
+    if (isMinimized) {
+        plot.showMinimized();
+    }
+    plot.setDisabled(isDisabled);
+
+    plot.updateData(5000);
+
+    QCOMPARE(upperEnd(plot, QwtPlot::yLeft), 5000.0);
 }
 
 TESSALINE_TEST_MAIN(PlotRedrawsTest)

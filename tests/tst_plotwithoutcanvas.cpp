@@ -8,6 +8,8 @@
 #include <qwt_plot_canvas.h>
 #include <qwt_scale_div.h>
 
+#include <QFrame>
+
 class PlotWithoutCanvasTest : public TestCase
 {
     Q_OBJECT
@@ -20,6 +22,7 @@ private Q_SLOTS:
     void takesASampleWhileItIsShown();
     void takesAColorWhileItIsShown();
     void drawsOnTheNextCanvas();
+    void takesABackgroundOnACanvasThatIsNotQwts();
 };
 
 void PlotWithoutCanvasTest::takesItsProperties_data()
@@ -105,6 +108,16 @@ void PlotWithoutCanvasTest::drawsOnTheNextCanvas()
     showWindow(&plot, 400, 300);
 
     QCOMPARE(colorAt(&plot, plot.canvas()->geometry().topLeft() + QPoint(9, 9)), QColor(Qt::red));
+}
+
+void PlotWithoutCanvasTest::takesABackgroundOnACanvasThatIsNotQwts()
+{
+    UpdatablePlot plot;
+    plot.setCanvas(new QFrame);
+
+    plot.setBgColor("#ff0000");
+
+    QCOMPARE(plot.bgColor(), QString("#ff0000"));
 }
 
 TESSALINE_TEST_MAIN(PlotWithoutCanvasTest)
