@@ -4,6 +4,8 @@
 #include "TestCase.h"
 #include "TwoPlots.h"
 
+#include <qwt_scale_map.h>
+
 class PlotPictureTest : public TestCase
 {
     Q_OBJECT
@@ -16,6 +18,7 @@ private Q_SLOTS:
     void paintsTheSameOnADarkPalette();
     void paintsTheSameAtEachPixelRatio_data();
     void paintsTheSameAtEachPixelRatio();
+    void paintsTheSamePartOfItsCurve();
 };
 
 void PlotPictureTest::initTestCase()
@@ -107,6 +110,28 @@ void PlotPictureTest::paintsTheSameAtEachPixelRatio()
     }
 
     QCOMPARE(found.join(" "), noDifferences(all));
+}
+
+void PlotPictureTest::paintsTheSamePartOfItsCurve()
+{
+    TwoPlots plots(samplesOf(noise, 10, 200));
+    plots.resize(QSize(333, 217));
+
+    QList<QImage> images;
+    for (QwtPlot *plot : plots.both()) {
+        QImage image(plot->size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        curveOf(plot)->drawSeries(&painter, plot->canvasMap(QwtPlot::xBottom),
+                                  plot->canvasMap(QwtPlot::yLeft), plot->canvas()->contentsRect(),
+                                  5, 9);
+        painter.end();
+        images.append(image);
+    }
+
+    QCOMPARE(differences(images.first(), images.last()), 0);
+    const QPoint beforeIt(20, plots.chart.canvas()->contentsRect().bottom() - 5);
+    QCOMPARE(images.first().pixel(beforeIt), QColor(Qt::white).rgb());
 }
 
 TESSALINE_TEST_MAIN(PlotPictureTest)

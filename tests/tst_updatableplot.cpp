@@ -36,6 +36,7 @@ private Q_SLOTS:
     void declaresOneSlotAndFourProperties();
     void declaresItsProperties_data();
     void declaresItsProperties();
+    void hasNoPropertyForMappersToFillIn();
     void startsWithTheHalfHourAfterItsStart();
     void startsWithoutTitlesAndLegend();
     void drawsHorizontalGridLinesOnly();
@@ -318,6 +319,13 @@ void UpdatablePlotTest::fillsTheAreaOnlyWhenTheCurveHasAColor()
     QCOMPARE(before, QColor(Qt::white));
     QCOMPARE(after.red(), 255);
     QVERIFY(after.green() > 80 && after.green() < 130); // red at 150 of 255 over white
+}
+
+void UpdatablePlotTest::hasNoPropertyForMappersToFillIn()
+{
+    const UpdatablePlot plot(nullptr);
+
+    QVERIFY(!plot.metaObject()->userProperty().isValid());
 }
 
 TESSALINE_TEST_MAIN(UpdatablePlotTest)
