@@ -14,7 +14,8 @@ target_compile_definitions(tst_plugin PRIVATE
     TESSALINE_DESIGNER_FILE="${TESSALINE_DESIGNER_FILE}")
 
 if(TESSALINE_HAS_PLOT AND NOT TESSALINE_QT EQUAL 4) # what is left in the program is about charts
-    tessaline_add_test(tst_pluginreloading LIBRARIES TessalineTestSupport ${TESSALINE_QT_UIPLUGIN})
+    tessaline_add_test(tst_pluginreloading LIBRARIES TessalineTestSupport Qwt::Qwt
+        ${TESSALINE_QT_UIPLUGIN})
     add_dependencies(tst_pluginreloading TessalineLibrary)
     target_compile_definitions(tst_pluginreloading PRIVATE
         TESSALINE_PLUGIN_FILE="$<TARGET_FILE:TessalineLibrary>")

@@ -2,6 +2,8 @@
 // The plug-in is loaded, used, unloaded and loaded again in one program, which is not linked to it.
 #include "TestCase.h"
 
+#include <qwt_text.h>
+
 #include <QAccessible>
 #include <QDesignerCustomWidgetCollectionInterface>
 #include <QLibrary>
@@ -38,6 +40,7 @@ class PluginReloadingTest : public TestCase
 
 private Q_SLOTS:
     void leavesTheWidgetsOfOthersToQtAfterwards();
+    void leavesTheTextsOfOthersToQwtAfterwards();
     void tellsOfItsChartsEachTime();
 };
 
@@ -50,6 +53,16 @@ void PluginReloadingTest::leavesTheWidgetsOfOthersToQtAfterwards()
 
     QSpinBox box;
     QCOMPARE(roleOf(&box), int(QAccessible::SpinBox));
+}
+
+void PluginReloadingTest::leavesTheTextsOfOthersToQwtAfterwards()
+{
+    QPluginLoader plugin(QString::fromUtf8(TESSALINE_PLUGIN_FILE));
+    delete make(&plugin, "UpdatablePlot");
+
+    QVERIFY(plugin.unload());
+
+    QVERIFY(QwtText("12:05") == QwtText("12:05", QwtText::PlainText)); // else it would crash
 }
 
 void PluginReloadingTest::tellsOfItsChartsEachTime()
