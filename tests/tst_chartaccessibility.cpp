@@ -63,6 +63,7 @@ private Q_SLOTS:
     void hasNoTextBeforeTheFirstSample();
     void tellsTheLatestSample();
     void tellsTheLatestSampleAfterTheClockWasSetBack();
+    void tellsASampleBeyondAnInt();
     void tellsTheLatestSampleAsTheAxisLabelsIt();
     void tellsTheUpperEndOfTheSizeAxis_data();
     void tellsTheUpperEndOfTheSizeAxis();
@@ -214,6 +215,15 @@ void ChartAccessibilityTest::leavesADerivedChartToItsOwnInterface()
     DrawnPlot plot;
 
     QCOMPARE(int(interfaceOf(&plot)->role()), int(QAccessible::Graphic));
+}
+
+void ChartAccessibilityTest::tellsASampleBeyondAnInt()
+{
+    UpdatablePlot plot;
+
+    plot.updateData(Q_INT64_C(3000000000));
+
+    QCOMPARE(currentValue(&plot), 3e9);
 }
 
 TESSALINE_TEST_MAIN(ChartAccessibilityTest)
