@@ -7,6 +7,7 @@
 #include "Tessaline.h"
 #include "TestCase.h"
 #ifdef TESSALINE_HAS_PLOT
+#include "QwtTestCompat.h"
 #include "UpdatablePlot.h"
 #endif
 
@@ -19,6 +20,26 @@ QString differencesOf(QDesignerCustomWidgetInterface *descriptor, const QWidget 
 {
     const QScopedPointer<QWidget> designed(descriptor->createWidget(nullptr));
     return differences(*designed, plain);
+}
+
+class AllTranslated : public compat::Translator
+{
+protected:
+    QString find(const QByteArray &, const QByteArray &) const override
+    {
+        return QString("translated");
+    }
+};
+
+/// What Designer says of the widgets.
+QStringList descriptionsBy(const Tessaline &collection)
+{
+    QStringList texts;
+    const QList<QDesignerCustomWidgetInterface *> widgets = collection.customWidgets();
+    for (const QDesignerCustomWidgetInterface *widget : widgets) {
+        texts << widget->name() << widget->group() << widget->toolTip() << widget->whatsThis();
+    }
+    return texts;
 }
 
 } // namespace
@@ -34,7 +55,9 @@ private Q_SLOTS:
     void makesAFileListAsAnApplicationDoes();
 #ifdef TESSALINE_HAS_PLOT
     void makesAChartAsAnApplicationDoes();
+    void makesAChartWithoutTitleAndSamples();
 #endif
+    void describesItsWidgetsTheSameInAnyLanguage();
     void makesAnotherWidgetEachTime();
     void givesTheSameDescriptorsAgain();
     void keepsItsDescriptorsWhenTheGivenListChanges();
@@ -111,6 +134,33 @@ void DesignedWidgetsTest::initializesOneDescriptorOnly()
     QVERIFY(collection.customWidgets().last()->isInitialized());
     QVERIFY(!collection.customWidgets().first()->isInitialized());
     QVERIFY(!other.customWidgets().last()->isInitialized());
+}
+
+#ifdef TESSALINE_HAS_PLOT
+void DesignedWidgetsTest::makesAChartWithoutTitleAndSamples()
+{
+    const Tessaline collection;
+    const QScopedPointer<QWidget> designed(collection.customWidgets().at(1)->createWidget(nullptr));
+
+    const UpdatablePlot *chart = qobject_cast<UpdatablePlot *>(designed.data());
+
+    QVERIFY(chart);
+    QVERIFY(chart->title().isEmpty());
+    QCOMPARE(int(compat::curveOf(*chart).dataSize()), 0);
+}
+#endif
+
+void DesignedWidgetsTest::describesItsWidgetsTheSameInAnyLanguage()
+{
+    const Tessaline collection;
+    const QStringList before = descriptionsBy(collection);
+    AllTranslated translator;
+    QCoreApplication::installTranslator(&translator);
+
+    const QStringList after = descriptionsBy(collection);
+
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(after, before);
 }
 
 TESSALINE_TEST_MAIN(DesignedWidgetsTest)
