@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QStandardItemModel>
+#include <QTableView>
 
 namespace {
 
@@ -77,9 +78,11 @@ private Q_SLOTS:
     void fillTheViewWhenTheStretchSectionComesBack();
     void fillTheViewWhenANeighbourComesBack();
     void fillTheViewWhenASectionIsHidden();
+    void fillTheViewWhenASectionIsShownAgain();
     void readTheStretchSectionWhenTheViewIsResized();
     void readTheStretchSectionAmongNewColumns();
     void keepTheirWidthsWhenTheStretchSectionIsGone();
+    void keepTheirWidthsWhenAnotherModelIsShown();
     void leaveRoomForTheScrollBar();
     void fillTheViewByTheColumnsOfTheTopLevel();
     void makeUpByTheColumnsOfTheTopLevel_data();
@@ -235,6 +238,32 @@ void ChangedSectionsTest::makeUpNextDoorOnceThatIsNoLongerFixed()
     table.header->resizeSection(0, 130);
 
     QCOMPARE(table.sectionWidths(), QString("130,170,100"));
+}
+
+void ChangedSectionsTest::fillTheViewWhenASectionIsShownAgain()
+{
+    Table table;
+    table.header->hideSection(0);
+
+    table.header->showSection(0);
+
+    QCOMPARE(table.sectionWidths(), QString("100,200,100"));
+}
+
+void ChangedSectionsTest::keepTheirWidthsWhenAnotherModelIsShown()
+{
+    QStandardItemModel other(2, 3);
+    QTableView plain;
+    Table table;
+    plain.setModel(&table.model);
+    setWidths(&plain, "100,150,100");
+    setWidths(&table.view, "100,150,100");
+    plain.setModel(&other);
+
+    table.view.setModel(&other);
+    goThroughEvents();
+
+    QCOMPARE(widths(table.view), widths(plain));
 }
 
 TESSALINE_TEST_MAIN(ChangedSectionsTest)
