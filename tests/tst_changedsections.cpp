@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "EditableTableView.h"
+#include "QtCompat.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
@@ -79,6 +80,7 @@ private Q_SLOTS:
     void fillTheViewWhenANeighbourComesBack();
     void fillTheViewWhenASectionIsHidden();
     void fillTheViewWhenASectionIsShownAgain();
+    void fillTheViewByTheStretchSectionAloneWhenAnotherFitsItsContents();
     void readTheStretchSectionWhenTheViewIsResized();
     void readTheStretchSectionAmongNewColumns();
     void keepTheirWidthsWhenTheStretchSectionIsGone();
@@ -264,6 +266,23 @@ void ChangedSectionsTest::keepTheirWidthsWhenAnotherModelIsShown()
     goThroughEvents();
 
     QCOMPARE(widths(table.view), widths(plain));
+}
+
+// The header fits it to its contents later, or as soon as it is asked for a width: here by the
+// view, to which the application says that it was resized.
+void ChangedSectionsTest::fillTheViewByTheStretchSectionAloneWhenAnotherFitsItsContents()
+{
+    Table table(2);
+    setWidths(&table.view, "100,150,100");
+    compat::setSectionResizeMode(table.header, QHeaderView::ResizeToContents);
+    compat::freeSection(table.header, 0);
+    compat::fixSection(table.header, 2); // so that the first would make up for the second
+
+    QMetaObject::invokeMethod(&table.view, "resizeView");
+
+    const int fitting = table.header->sectionSize(1);
+    QVERIFY(fitting != 150);
+    QCOMPARE(table.sectionWidths(), QString("100,%1,%2").arg(fitting).arg(300 - fitting));
 }
 
 TESSALINE_TEST_MAIN(ChangedSectionsTest)
