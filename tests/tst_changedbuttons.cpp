@@ -4,6 +4,7 @@
 #include "ViewHelpers.h"
 
 #include <QAbstractButton>
+#include <QFont>
 #include <QPointer>
 
 namespace {

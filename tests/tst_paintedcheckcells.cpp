@@ -3,10 +3,11 @@
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
+#include <QApplication>
 #include <QColor>
 #include <QPalette>
 #include <QProxyStyle>
-#include <QStyleOptionButton>
+#include <QStyleOption>
 
 namespace {
 
