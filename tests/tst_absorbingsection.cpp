@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "QtCompat.h"
 #include "SectionSizing.h"
 #include "TestCase.h"
 
@@ -49,6 +50,7 @@ class AbsorbingSectionTest : public TestCase
 private Q_SLOTS:
     void isTheNextOne_data();
     void isTheNextOne();
+    void isTheNextOneThoughThatFitsItsContents();
     void isTheOneBeforeWhereTheNextIsFixed_data();
     void isTheOneBeforeWhereTheNextIsFixed();
     void standsWhereTheNeighboursIndexSays();
@@ -142,6 +144,14 @@ void AbsorbingSectionTest::countsTheColumnsOnly()
 
     // While a model goes, the header may have more sections than there are columns.
     QCOMPARE(SectionSizing::absorbingWidth(header.header, 1, 2), 300);
+}
+
+void AbsorbingSectionTest::isTheNextOneThoughThatFitsItsContents()
+{
+    Header header;
+    compat::setSectionResizeMode(&header.header, QHeaderView::ResizeToContents);
+
+    QCOMPARE(header.absorberOf(0), 1);
 }
 
 TESSALINE_TEST_MAIN(AbsorbingSectionTest)

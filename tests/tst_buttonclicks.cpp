@@ -4,6 +4,9 @@
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
+#include <QDialog>
+#include <QVBoxLayout>
+
 namespace {
 
 QString report(const QSignalSpy &spy)
@@ -33,6 +36,7 @@ private Q_SLOTS:
     void reportsTheCellsOfTheLatestDeclarations();
     void reportsTheRowWhereTheButtonIsNow();
     void reportsAKeyPress();
+    void reportsAReturnKeyInADialog();
     void leavesTheCurrentCellAloneWhenAButtonGetsTheFocus();
 };
 
@@ -173,6 +177,21 @@ void ButtonClicksTest::leavesTheCurrentCellAloneWhenAButtonGetsTheFocus()
     QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(table.button(2)));
     QCOMPARE(table.view.currentIndex(), table.model.index(0, 0));
     QVERIFY(!table.view.selectionModel()->isSelected(table.model.index(2, 1)));
+}
+
+void ButtonClicksTest::reportsAReturnKeyInADialog()
+{
+    QDialog dialog;
+    ButtonTable table;
+    QVBoxLayout *layout = new QVBoxLayout(&dialog);
+    layout->addWidget(&table.view);
+    showWindow(&dialog, 400, 200);
+    QSignalSpy spy(&table.view, SIGNAL(buttonClicked(QWidget*,int,int,QStringList)));
+    table.button(2)->setFocus();
+
+    QTest::keyClick(table.button(2), Qt::Key_Return);
+
+    QCOMPARE(report(spy), QString("2/1:c"));
 }
 
 TESSALINE_TEST_MAIN(ButtonClicksTest)

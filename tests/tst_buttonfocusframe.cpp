@@ -103,6 +103,7 @@ private Q_SLOTS:
     void isSeenWhenReachedByTab_data();
     void isSeenWhenReachedByTab();
     void isSeenInATable();
+    void isSeenWhereTheTextOfTheWindowIsNot();
     void isSeenWhileTheButtonIsDown();
     void goesWithTheFocus_data();
     void goesWithTheFocus();
@@ -227,6 +228,19 @@ void ButtonFocusFrameTest::leavesThePictureInsideTheFrameToQt()
     const int frame = int(std::ceil(2 * compat::pixelRatio(*window.button)));
     const QRect inside = painted.rect().adjusted(frame, frame, -frame, -frame);
     QCOMPARE(window.picture().copy(inside), painted.copy(inside));
+}
+
+void ButtonFocusFrameTest::isSeenWhereTheTextOfTheWindowIsNot()
+{
+    Window window("Fusion", "light", new CellButton("Run", true, nullptr));
+    QPalette hidden = window.window.palette();
+    hidden.setColor(QPalette::WindowText, hidden.color(QPalette::Button));
+    window.window.setPalette(hidden);
+    const QImage before = window.picture();
+
+    QTest::keyClick(window.field, Qt::Key_Tab);
+
+    QVERIFY(mostChange(before, window.picture()) > 100);
 }
 
 TESSALINE_TEST_MAIN(ButtonFocusFrameTest)

@@ -4,6 +4,8 @@
 #include "ViewHelpers.h"
 
 #include <QAbstractButton>
+#include <QFont>
+#include <QPointer>
 
 namespace {
 
@@ -49,11 +51,18 @@ private Q_SLOTS:
     void isCaptionedInTheLanguageOfItsMaking();
     void keepsItsCaptionWhenTheLanguageChanges();
     void isMadeByTheDeclarationsOfItsMaking();
+    void isMadeInAHiddenColumn();
+    void hasTheFontOfItsTable();
     void reportsTheColumnWhereItIsNow();
     void reportsTheCellsOfItsParentsRows();
+    void reportsItsCellWhereverTheUserMovesThat_data();
+    void reportsItsCellWhereverTheUserMovesThat();
+    void reportsTheCellsOfHiddenColumns();
+    void reportsAClickInADisabledCell();
     void isMadeInRowsOfAParentThatIsNotShown();
     void isFoundInRowsOfTheTopLevelOnly();
     void reportsWhatIsBeingTypedInItsRow();
+    void reportsNothingOfWhatIsBeingTypedWhenClickedByProgram();
     void reportsWithoutWaitingForTheEventLoop();
     void reportsToItsOwnTableOnly();
     void reportsAfterItsColumnIsDeclaredPlain();
@@ -267,6 +276,102 @@ void ChangedButtonsTest::keepsTabNavigationWhenNoRowGoes()
     }
 
     QVERIFY(table.view.tabKeyNavigation());
+}
+
+void ChangedButtonsTest::isMadeInAHiddenColumn()
+{
+    ButtonTable table;
+    showWindow(&table.view, 400, 200);
+    table.view.hideColumn(1);
+
+    table.model.insertRow(3);
+
+    table.view.showColumn(1);
+    goThroughEvents();
+    QVERIFY(table.button(3));
+    QVERIFY(table.button(3)->isVisible());
+}
+
+void ChangedButtonsTest::hasTheFontOfItsTable()
+{
+    QFont font;
+    ButtonTable table;
+    font.setPointSize(20);
+    table.view.setFont(font);
+    table.model.insertRow(3);
+    QCOMPARE(table.button(3)->font().pointSize(), 20);
+
+    font.setPointSize(30);
+    table.view.setFont(font);
+
+    QCOMPARE(table.button(0)->font().pointSize(), 30);
+    QCOMPARE(table.button(3)->font().pointSize(), 30);
+}
+
+void ChangedButtonsTest::reportsItsCellWhereverTheUserMovesThat_data()
+{
+    QTest::addColumn<bool>("movesRow");
+
+    QTest::newRow("row moved") << true;
+    QTest::newRow("column moved") << false;
+}
+
+void ChangedButtonsTest::reportsItsCellWhereverTheUserMovesThat()
+{
+    QFETCH(bool, movesRow);
+    ButtonTable table;
+    showWindow(&table.view, 400, 200);
+    (movesRow ? table.view.verticalHeader() : table.view.horizontalHeader())->moveSection(1, 0);
+    goThroughEvents();
+    QSignalSpy spy(&table.view, clickReport);
+
+    QTest::mouseClick(table.button(1), Qt::LeftButton);
+
+    QCOMPARE(reports(spy), QStringList("1/1:b"));
+}
+
+void ChangedButtonsTest::reportsTheCellsOfHiddenColumns()
+{
+    ButtonTable table;
+    table.view.hideColumn(0);
+    showWindow(&table.view, 400, 200);
+    QSignalSpy spy(&table.view, clickReport);
+
+    QTest::mouseClick(table.button(1), Qt::LeftButton);
+
+    QCOMPARE(reports(spy), QStringList("1/1:b"));
+}
+
+void ChangedButtonsTest::reportsAClickInADisabledCell()
+{
+    ButtonTable table;
+    const QList<QStandardItem *> row = itemRow("d");
+    row.at(1)->setEnabled(false);
+    table.model.appendRow(row);
+    showWindow(&table.view, 400, 300);
+    QSignalSpy spy(&table.view, clickReport);
+
+    QTest::mouseClick(table.button(3), Qt::LeftButton);
+
+    QCOMPARE(reports(spy), QStringList("3/1:d"));
+}
+
+// Nothing takes the focus from the editor.
+void ChangedButtonsTest::reportsNothingOfWhatIsBeingTypedWhenClickedByProgram()
+{
+    ButtonTable table;
+    showWindow(&table.view, 400, 200);
+    const QPointer<QWidget> editor = openEditor(&table.view, table.model.index(1, 0));
+    QVERIFY(editor);
+    QTest::keyClicks(editor, "typed");
+    QSignalSpy spy(&table.view, clickReport);
+
+    table.button(1)->click();
+
+    QCOMPARE(reports(spy), QStringList("1/1:b"));
+    goThroughEvents();
+    QVERIFY(editor);
+    QCOMPARE(table.view.button(1, 0), editor.data());
 }
 
 TESSALINE_TEST_MAIN(ChangedButtonsTest)

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "CheckItemDelegate.h"
+#include "EditableTableView.h"
 #include "ShownList.h"
 #include "TestCase.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QImage>
+#include <QLocale>
 #include <QPainter>
 
 namespace {
@@ -34,6 +36,24 @@ protected:
         const bool isNote = context == "FileListTableView" && source == "loading...";
         return isLabel ? QString("Weiter") : isNote ? QString("wird geladen") : QString();
     }
+};
+
+/// Has numbers written as in Persian, for as long as it lives.
+class PersianNumbers
+{
+public:
+    PersianNumbers()
+    {
+        QLocale::setDefault(QLocale(QLocale::Persian, QLocale::Iran));
+    }
+
+    ~PersianNumbers()
+    {
+        QLocale::setDefault(previous);
+    }
+
+private:
+    const QLocale previous;
 };
 
 /// A check cell's picture.
@@ -70,6 +90,8 @@ private Q_SLOTS:
     void opensACheckBoxInTheLanguageOfTheMoment();
     void labelsThePagingButtonInTheLanguageOfTheMoment();
     void tellsOfAPageInTheLanguageOfTheMoment();
+    void describesAColumnByTheSameDigitsInEachLanguage_data();
+    void describesAColumnByTheSameDigitsInEachLanguage();
 };
 
 void ChangedLanguageTest::paintsACheckCellInTheLanguageOfTheMoment()
@@ -122,6 +144,43 @@ void ChangedLanguageTest::tellsOfAPageInTheLanguageOfTheMoment()
     list.click();
 
     QCOMPARE(list.paging(), QString("0 loading..."));
+}
+
+void ChangedLanguageTest::describesAColumnByTheSameDigitsInEachLanguage_data()
+{
+    QTest::addColumn<QString>("declaration");
+    QTest::addColumn<QString>("description");
+
+    QTest::newRow("combobox") << "combobox"
+                              << "EditableTableViewCombo column2";
+    QTest::newRow("editcombobox") << "editcombobox"
+                                  << "EditableTableViewCombo column2";
+    QTest::newRow("editbox") << "editbox"
+                             << "EditableTableViewEdit column2";
+    QTest::newRow("passwordbox") << "passwordbox"
+                                 << "EditableTableViewPassword column2";
+    QTest::newRow("checkbox") << "checkbox"
+                              << "EditableTableViewCheckBox column2";
+    QTest::newRow("button") << "button"
+                            << "EditableTableViewButton column2";
+}
+
+// Programs find a widget by its description.
+void ChangedLanguageTest::describesAColumnByTheSameDigitsInEachLanguage()
+{
+    QFETCH(QString, declaration);
+    const PersianNumbers persian;
+    QVERIFY(QString("%L1").arg(2) != "2");
+    QStandardItemModel model(1, 3);
+    EditableTableView view;
+    view.setColumns(QStringList() << ""
+                                  << "" << declaration);
+
+    view.setModel(&model);
+    view.openPersistentEditor(model.index(0, 2));
+
+    QVERIFY(view.button(0, 2));
+    QTEST(view.button(0, 2)->accessibleDescription(), "description");
 }
 
 TESSALINE_TEST_MAIN(ChangedLanguageTest)

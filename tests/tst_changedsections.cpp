@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "EditableTableView.h"
+#include "QtCompat.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QStandardItemModel>
+#include <QTableView>
 
 namespace {
 
@@ -77,9 +79,12 @@ private Q_SLOTS:
     void fillTheViewWhenTheStretchSectionComesBack();
     void fillTheViewWhenANeighbourComesBack();
     void fillTheViewWhenASectionIsHidden();
+    void fillTheViewWhenASectionIsShownAgain();
+    void fillTheViewByTheStretchSectionAloneWhenAnotherFitsItsContents();
     void readTheStretchSectionWhenTheViewIsResized();
     void readTheStretchSectionAmongNewColumns();
     void keepTheirWidthsWhenTheStretchSectionIsGone();
+    void keepTheirWidthsWhenAnotherModelIsShown();
     void leaveRoomForTheScrollBar();
     void fillTheViewByTheColumnsOfTheTopLevel();
     void makeUpByTheColumnsOfTheTopLevel_data();
@@ -235,6 +240,49 @@ void ChangedSectionsTest::makeUpNextDoorOnceThatIsNoLongerFixed()
     table.header->resizeSection(0, 130);
 
     QCOMPARE(table.sectionWidths(), QString("130,170,100"));
+}
+
+void ChangedSectionsTest::fillTheViewWhenASectionIsShownAgain()
+{
+    Table table;
+    table.header->hideSection(0);
+
+    table.header->showSection(0);
+
+    QCOMPARE(table.sectionWidths(), QString("100,200,100"));
+}
+
+void ChangedSectionsTest::keepTheirWidthsWhenAnotherModelIsShown()
+{
+    QStandardItemModel other(2, 3);
+    QTableView plain;
+    Table table;
+    plain.setModel(&table.model);
+    setWidths(&plain, "100,150,100");
+    setWidths(&table.view, "100,150,100");
+    plain.setModel(&other);
+
+    table.view.setModel(&other);
+    goThroughEvents();
+
+    QCOMPARE(widths(table.view), widths(plain));
+}
+
+// The header fits it to its contents later, or as soon as it is asked for a width: here by the
+// view, to which the application says that it was resized.
+void ChangedSectionsTest::fillTheViewByTheStretchSectionAloneWhenAnotherFitsItsContents()
+{
+    Table table(2);
+    setWidths(&table.view, "100,150,100");
+    compat::setSectionResizeMode(table.header, QHeaderView::ResizeToContents);
+    compat::freeSection(table.header, 0);
+    compat::fixSection(table.header, 2); // so that the first would make up for the second
+
+    QMetaObject::invokeMethod(&table.view, "resizeView");
+
+    const int fitting = table.header->sectionSize(1);
+    QVERIFY(fitting != 150);
+    QCOMPARE(table.sectionWidths(), QString("100,%1,%2").arg(fitting).arg(300 - fitting));
 }
 
 TESSALINE_TEST_MAIN(ChangedSectionsTest)

@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QColor>
 #include <QImage>
+#include <QKeySequence>
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
@@ -100,6 +101,7 @@ private Q_SLOTS:
     void translatesItsLabelWheneverItIsShown();
     void showsALabelInLatin1_data();
     void showsALabelInLatin1();
+    void hasTheShortcutThatItsLabelNames();
     void leavesAForeignEditorAlone();
 };
 
@@ -334,6 +336,17 @@ void CheckItemDelegateTest::showsALabelInLatin1()
 void CheckItemDelegateTest::leavesAForeignEditorAlone()
 {
     verifyLeavesForeignEditorAlone("checkbox");
+}
+
+void CheckItemDelegateTest::hasTheShortcutThatItsLabelNames()
+{
+    EditorFixture fixture("checkbox:&Verify");
+
+    QCheckBox *box = qobject_cast<QCheckBox *>(fixture.open(0, 0));
+
+    QVERIFY(box);
+    QCOMPARE(box->text(), QString("&Verify"));
+    QCOMPARE(box->shortcut(), QKeySequence("Alt+V"));
 }
 
 TESSALINE_TEST_MAIN(CheckItemDelegateTest)

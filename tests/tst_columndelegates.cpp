@@ -38,6 +38,8 @@ private Q_SLOTS:
     void anEmptyListMakesAllColumnsPlain();
     void replacesADelegateByOneOfAnotherKind();
     void deletesOldDelegatesInOrderOfColumns();
+    void deletesOldDelegatesBesideAnObjectOfTheApplications();
+    void deletesOldDelegatesBesideAnEditorWhoseRowHasGone();
     void leavesAnApplicationsOwnDelegateInstalled();
     void givesItsDelegatesNoParent();
     void leavesItsDelegatesAloneWhenDestroyed();
@@ -244,6 +246,33 @@ void ColumnDelegatesTest::setsColumnsThroughTheProperty()
 
     QCOMPARE(delegateName(view, 0), QString("EditItemDelegate"));
     QCOMPARE(view.property("columns").toStringList(), QStringList() << "editbox");
+}
+
+void ColumnDelegatesTest::deletesOldDelegatesBesideAnObjectOfTheApplications()
+{
+    EditableTableView view;
+    view.setColumns(QStringList("editbox"));
+    const QPointer<QAbstractItemDelegate> old = view.itemDelegateForColumn(0);
+    new QObject(view.viewport());
+
+    view.setColumns(QStringList());
+
+    QVERIFY(!old);
+}
+
+void ColumnDelegatesTest::deletesOldDelegatesBesideAnEditorWhoseRowHasGone()
+{
+    QStandardItemModel model(2, 1);
+    EditableTableView view;
+    view.setColumns(QStringList("editbox"));
+    view.setModel(&model);
+    view.openPersistentEditor(model.index(1, 0));
+    const QPointer<QAbstractItemDelegate> old = view.itemDelegateForColumn(0);
+    model.removeRow(1);
+
+    view.setColumns(QStringList());
+
+    QVERIFY(!old);
 }
 
 TESSALINE_TEST_MAIN(ColumnDelegatesTest)

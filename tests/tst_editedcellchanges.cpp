@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "EditorFixture.h"
+#include "QtCompat.h"
 #include "TableInEdit.h"
 #include "TestCase.h"
 #include "ViewHelpers.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFont>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QStringListModel>
@@ -78,8 +80,18 @@ private Q_SLOTS:
     void writesWhatItShowsOverAValueThatChangedUnnoticed();
     void writesNothingOverItsLikeThatCameUnnoticed_data();
     void writesNothingOverItsLikeThatCameUnnoticed();
+    void bringsNothingBackThatACellGotMeanwhile_data();
+    void bringsNothingBackThatACellGotMeanwhile();
+    void showsTheFirstOfEqualItemsWhenItsCellChanges();
+    void tellsOfAChoiceThatTheModelMakes();
     void staysOverItsCellWhenThatChangesItsSize_data();
     void staysOverItsCellWhenThatChangesItsSize();
+    void staysOverACellThatBecomesLow_data();
+    void staysOverACellThatBecomesLow();
+    void staysOverItsCellInAViewFromRightToLeft_data();
+    void staysOverItsCellInAViewFromRightToLeft();
+    void hasTheFontThatItsViewHasByNow_data();
+    void hasTheFontThatItsViewHasByNow();
 };
 
 void EditedCellChangesTest::showsAValueThatChangesInTheMidstOfTyping_data()
@@ -243,6 +255,121 @@ void EditedCellChangesTest::staysOverItsCellWhenThatChangesItsSize()
 
     QVERIFY(editor->geometry() != before);
     QCOMPARE(editor->geometry(), table.view.visualRect(table.model.index(1, 1)));
+}
+
+void EditedCellChangesTest::bringsNothingBackThatACellGotMeanwhile_data()
+{
+    QTest::addColumn<QString>("declaration");
+
+    QTest::newRow("editcombobox") << "editcombobox";
+    QTest::newRow("editbox") << "editbox";
+    QTest::newRow("passwordbox") << "passwordbox";
+}
+
+// A text that the cell holds is loaded, though it stands in the field: nobody typed it any more.
+void EditedCellChangesTest::bringsNothingBackThatACellGotMeanwhile()
+{
+    QFETCH(QString, declaration);
+    EditedTable table(declaration);
+    table.items.setStringList(QStringList("typed"));
+    QWidget *editor = table.open(0, 0, "old");
+    QVERIFY(editor);
+    QComboBox *list = qobject_cast<QComboBox *>(editor);
+    QLineEdit *field = list ? list->lineEdit() : qobject_cast<QLineEdit *>(editor);
+    field->setCompleter(nullptr); // which would type itself
+    typeInto(editor);
+    QVERIFY(field->isModified());
+
+    table.model.put(0, 0, "typed");
+
+    QCOMPARE(field->text(), QString("typed"));
+    QVERIFY(!field->isModified());
+    QVERIFY(!field->isUndoAvailable());
+}
+
+void EditedCellChangesTest::showsTheFirstOfEqualItemsWhenItsCellChanges()
+{
+    EditedTable table("combobox");
+    table.items.setStringList(QStringList() << "old"
+                                            << "new"
+                                            << "old");
+    QComboBox *box = qobject_cast<QComboBox *>(table.open(0, 0, "old"));
+    QVERIFY(box);
+    QTest::keyClick(box, Qt::Key_End);
+    QCOMPARE(box->currentIndex(), 2);
+
+    table.model.put(0, 0, "a hint", Qt::ToolTipRole);
+
+    QCOMPARE(box->currentIndex(), 0);
+}
+
+void EditedCellChangesTest::tellsOfAChoiceThatTheModelMakes()
+{
+    EditedTable table("combobox");
+    QWidget *box = table.open(0, 0, "old");
+    QVERIFY(box);
+    QSignalSpy spy(box, SIGNAL(currentIndexChanged(int)));
+
+    table.model.put(0, 0, "new");
+
+    QCOMPARE(int(spy.size()), 1);
+    QCOMPARE(spy.at(0).at(0).toInt(), 1);
+}
+
+void EditedCellChangesTest::staysOverACellThatBecomesLow_data()
+{
+    addRowsForTheEditors();
+}
+
+void EditedCellChangesTest::staysOverACellThatBecomesLow()
+{
+    QFETCH(QString, declaration);
+    EditedTable table(declaration);
+    QWidget *editor = table.open(1, 1, "old");
+    QVERIFY(editor);
+
+    compat::resizeSection(table.view.verticalHeader(), 1, 8);
+    goThroughEvents();
+
+    QCOMPARE(editor->geometry(), table.view.visualRect(table.model.index(1, 1)));
+}
+
+void EditedCellChangesTest::staysOverItsCellInAViewFromRightToLeft_data()
+{
+    addRowsForTheEditors();
+}
+
+void EditedCellChangesTest::staysOverItsCellInAViewFromRightToLeft()
+{
+    QFETCH(QString, declaration);
+    EditedTable table(declaration);
+    table.view.setLayoutDirection(Qt::RightToLeft);
+    QWidget *editor = table.open(1, 1, "old");
+    QVERIFY(editor);
+
+    table.view.resizeSection(1, 60);
+    goThroughEvents();
+
+    QCOMPARE(editor->geometry(), table.view.visualRect(table.model.index(1, 1)));
+}
+
+void EditedCellChangesTest::hasTheFontThatItsViewHasByNow_data()
+{
+    addRowsForTheEditors();
+}
+
+void EditedCellChangesTest::hasTheFontThatItsViewHasByNow()
+{
+    QFETCH(QString, declaration);
+    EditedTable table(declaration);
+    QWidget *editor = table.open(1, 1, "old");
+    QVERIFY(editor);
+    QFont font = table.view.font();
+    font.setPointSize(25);
+
+    table.view.setFont(font);
+
+    QCOMPARE(editor->font().pointSize(), 25);
 }
 
 TESSALINE_TEST_MAIN(EditedCellChangesTest)

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void writesOnlyATextThatDiffers_data();
     void writesOnlyATextThatDiffers();
     void escapeDiscardsWhatWasTyped();
+    void emptiesACellWhoseTextIsDeleted();
     void leavesAForeignEditorAlone();
     void readsWhatACellHoldsNotWhatItShows();
 };
@@ -129,6 +130,18 @@ void EditItemDelegateTest::readsWhatACellHoldsNotWhatItShows()
     delegate.setModelData(&field, &model, model.index(0, 0));
 
     QCOMPARE(model.writes, QStringList("edit shown"));
+}
+
+void EditItemDelegateTest::emptiesACellWhoseTextIsDeleted()
+{
+    EditorFixture fixture("editbox");
+    QWidget *field = fixture.open(0, 0, "abc");
+    QVERIFY(field);
+    QTest::keyClick(field, Qt::Key_Delete); // the text is selected
+
+    commitEditor(field);
+
+    QCOMPARE(fixture.model.writes, QStringList("edit "));
 }
 
 TESSALINE_TEST_MAIN(EditItemDelegateTest)

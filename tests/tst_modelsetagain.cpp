@@ -29,6 +29,7 @@ class ModelSetAgainTest : public TestCase
 private Q_SLOTS:
     void givesRowsOfABlockTheirButtons();
     void givesAHiddenTableItsButtons();
+    void givesTheTopLevelItsButtonsThoughAnotherIsShown();
     void placesTheNewButtons();
     void looksAtEachCellAFewTimesOnly();
 };
@@ -84,6 +85,20 @@ void ModelSetAgainTest::looksAtEachCellAFewTimesOnly()
     if (compat::collapsingHoldsLayout) {
         QVERIFY(view.looks <= 500);
     }
+}
+
+void ModelSetAgainTest::givesTheTopLevelItsButtonsThoughAnotherIsShown()
+{
+    ButtonTable table;
+    table.model.insertRows(1, 3);
+    QStandardItem *parent = table.model.item(0);
+    parent->setColumnCount(2);
+    parent->setRowCount(2);
+    table.view.setRootIndex(parent->index());
+
+    table.view.setModel(&table.model);
+
+    QCOMPARE(buttonMarks(table.view, 1), QString("xxxxxx"));
 }
 
 TESSALINE_TEST_MAIN(ModelSetAgainTest)

@@ -78,6 +78,8 @@ class PersistentEditorsTest : public TestCase
 
 private Q_SLOTS:
     void areCommittedInEachRow();
+    void areCommittedOutOfSight_data();
+    void areCommittedOutOfSight();
     void keepWhatIsCommittedFromTheCurrentCell();
     void areClosedThoughTheSameColumnsAreDeclared();
     void areOutOfSightAtOnce();
@@ -282,6 +284,31 @@ void PersistentEditorsTest::stayInAnotherTableOfTheSameModel()
     QVERIFY(editor);
     QCOMPARE(other.indexWidget(table.model.index(0, 0)), editor.data());
     QCOMPARE(table.model.writes, QStringList("edit typed"));
+}
+
+void PersistentEditorsTest::areCommittedOutOfSight_data()
+{
+    QTest::addColumn<bool>("inAHiddenColumn");
+
+    QTest::newRow("in a hidden column") << true;
+    QTest::newRow("in a hidden row") << false;
+}
+
+void PersistentEditorsTest::areCommittedOutOfSight()
+{
+    QFETCH(bool, inAHiddenColumn);
+    Table table;
+    const QPointer<QWidget> editor = table.type(1, "typed");
+    table.view.setColumnHidden(0, inAHiddenColumn);
+    table.view.setRowHidden(1, !inAHiddenColumn);
+    goThroughEvents();
+    QVERIFY(!editor->isVisible());
+
+    table.view.setColumns(QStringList());
+    goThroughEvents();
+
+    QVERIFY(!editor);
+    QCOMPARE(texts(table.model, 0), QString(",typed,"));
 }
 
 TESSALINE_TEST_MAIN(PersistentEditorsTest)

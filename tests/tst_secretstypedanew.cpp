@@ -84,6 +84,7 @@ private Q_SLOTS:
     void masksEachCharacter();
     void writesASecretOnce();
     void losesASecretThatIsEscaped();
+    void writesASecretWhenTheTableIsDisabled();
     void leavesTheFocusOfOthersAloneWhenItGivesAFieldUp();
     void takesAFieldThatItGaveUpAway();
     void leavesTheFocusToTheTableWhenItGivesAFieldUp_data();
@@ -187,6 +188,7 @@ void SecretsTypedAnewTest::masksEachCharacter_data()
     QTest::newRow("one") << "a";
     QTest::newRow("blanks") << "   ";
     QTest::newRow("many") << QString(40, QLatin1Char('z'));
+    QTest::newRow("as many as a key has") << QString(200, QLatin1Char('k'));
 }
 
 void SecretsTypedAnewTest::masksEachCharacter()
@@ -290,6 +292,19 @@ void SecretsTypedAnewTest::leavesTheFocusToTheTableWhenItGivesAFieldUp()
     table.model.insertColumn(0);
 
     QCOMPARE(table.view.window()->focusWidget(), static_cast<QWidget *>(&table.view));
+}
+
+void SecretsTypedAnewTest::writesASecretWhenTheTableIsDisabled()
+{
+    Secret table;
+    QWidget *field = table.open();
+    QVERIFY(field);
+    QTest::keyClicks(field, "new");
+
+    table.view.setEnabled(false);
+    goThroughEvents();
+
+    QCOMPARE(table.cell(0, 0, secretRole).toString(), QString("new"));
 }
 
 TESSALINE_TEST_MAIN(SecretsTypedAnewTest)

@@ -16,6 +16,7 @@ class TableDefaultsTest : public TestCase
 private Q_SLOTS:
     void makesATableAsTheToolkitDoes();
     void makesItsColumnHeaderAsTheToolkitDoes();
+    void highlightsNoSectionOfAHeaderThatCanBeClicked();
     void makesItsRowHeaderAsTheToolkitDoes();
     void leavesTheSettingsOfATableThatDeclaresColumns();
     void makesAButtonAsTheToolkitDoes();
@@ -117,6 +118,15 @@ void TableDefaultsTest::showsTheRowsThatALazyModelFetches()
     model.insertRow(1);
 
     QTRY_COMPARE(buttonMarks(view, 1), QString("xxxxx"));
+}
+
+void TableDefaultsTest::highlightsNoSectionOfAHeaderThatCanBeClicked()
+{
+    EditableTableView view;
+
+    view.setHorizontalHeaderClickable(true);
+
+    QVERIFY(!view.horizontalHeader()->highlightSections());
 }
 
 TESSALINE_TEST_MAIN(TableDefaultsTest)

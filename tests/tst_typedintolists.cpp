@@ -4,6 +4,7 @@
 #include "ViewHelpers.h"
 
 #include <QComboBox>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QStandardItemModel>
 #include <QStringListModel>
@@ -69,6 +70,16 @@ public:
     }
 };
 
+/// Takes items without the blanks around them.
+class TidyList : public QStringListModel
+{
+public:
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override
+    {
+        return QStringListModel::setData(index, value.toString().trimmed(), role);
+    }
+};
+
 } // namespace
 
 /// What the toolkit does with a text that is typed into a list, and what items are known by.
@@ -81,6 +92,8 @@ private Q_SLOTS:
     void addsATypedTextToTheBoundModelByReturn();
     void addsNoTextThatTheListHas();
     void writesATextThatTheListDoesNotTake();
+    void writesATextThatCameWithoutAKeyAndTheListDoesNotTake();
+    void writesWhatTheListMakesOfATypedText();
     void writesATextThatJoinsALaterColumn();
     void emptiesACellWhoseTextIsDeleted();
     void addsNothingWhenTheFieldIsLeft();
@@ -90,6 +103,7 @@ private Q_SLOTS:
     void listsAnotherColumnOfTheSameModel();
     void knowsItemsByWhatTheyShow();
     void writesWhatAnItemShows();
+    void writesAnItemThatWasDisabledSinceItWasChosen();
     void choosesANumberFromAListOfNumbers();
 };
 
@@ -277,6 +291,56 @@ void TypedIntoListsTest::choosesANumberFromAListOfNumbers()
 
     QVERIFY(box);
     QCOMPARE(box->currentIndex(), 1);
+}
+
+// By mouse, or by an input method as here.
+void TypedIntoListsTest::writesATextThatCameWithoutAKeyAndTheListDoesNotTake()
+{
+    FixedList items;
+    Colours table;
+    table.view.bindModel(0, &items);
+    QComboBox *box = qobject_cast<QComboBox *>(table.open(0, 0, "red"));
+    QVERIFY(box);
+    box->lineEdit()->selectAll();
+    QInputMethodEvent input;
+    input.setCommitString("pink");
+    QApplication::sendEvent(box->lineEdit(), &input);
+    QCOMPARE(box->currentText(), QString("pink"));
+
+    commitEditor(box);
+
+    QCOMPARE(table.model.writes, QStringList("edit pink"));
+}
+
+void TypedIntoListsTest::writesWhatTheListMakesOfATypedText()
+{
+    TidyList items;
+    Colours table;
+    table.view.bindModel(0, &items);
+    QWidget *box = table.type("red", " pink ");
+    QVERIFY(box);
+
+    commitEditor(box);
+
+    QCOMPARE(items.stringList().join(","), QString("pink"));
+    QCOMPARE(table.model.writes, QStringList("edit pink"));
+}
+
+void TypedIntoListsTest::writesAnItemThatWasDisabledSinceItWasChosen()
+{
+    QStandardItemModel items;
+    items.appendRow(new QStandardItem("red"));
+    items.appendRow(new QStandardItem("green"));
+    EditorFixture fixture("combobox");
+    fixture.view.bindModel(0, &items);
+    QWidget *box = fixture.open(0, 0, "red");
+    QVERIFY(box);
+    QTest::keyClick(box, Qt::Key_Down);
+    items.item(1)->setEnabled(false);
+
+    commitEditor(box);
+
+    QCOMPARE(fixture.model.writes, QStringList("edit green"));
 }
 
 TESSALINE_TEST_MAIN(TypedIntoListsTest)
