@@ -173,10 +173,10 @@ int work(const QCommandLineParser &parser)
     job.source = parser.value("source");
     job.repository = parser.value("target");
     job.verify = parser.isSet("verify");
+    job.uploadLimit = parser.value("limit-upload").toInt();
     job.password = readPassword();
     BackupRun run;
     report(&run, parser);
-    run.setUploadLimit(parser.value("limit-upload").toInt());
     ResticRun listing;
     QObject::connect(&listing, &ResticRun::message, listSnapshots);
     QObject::connect(&listing, &ResticRun::finished, [&parser](const Outcome &outcome) {
@@ -187,7 +187,7 @@ int work(const QCommandLineParser &parser)
     } else if (parser.isSet("restore")) {
         run.restore(job, parser.value("restore"), parser.positionalArguments().constFirst());
     } else if (parser.isSet("snapshots")) {
-        listing.start(job.repository, job.password, {"snapshots", "--json"});
+        listing.start(job, {"snapshots", "--json"});
     } else {
         run.verify(job);
     }
@@ -220,8 +220,8 @@ int Console::run(const QStringList &arguments)
     } else if (!isUnderstood || !makesSense(parser)) {
         say(stderr, parser.errorText());
         say(stderr,
-            Console::tr("Say --target, and --run with --source, --verify, --snapshots, or "
-                        "--restore with a snapshot and a folder. --help tells more."));
+            tr("Say --target, and --run with --source, --verify, --snapshots, or "
+               "--restore with a snapshot and a folder. --help tells more."));
         return 2;
     } else {
         return work(parser);

@@ -12,12 +12,12 @@
 
 namespace {
 
-QStringList backUpArguments(const BackupJob &job, int kibibytesPerSecond)
+QStringList backUpArguments(const BackupJob &job)
 {
     const QString source = Restic::sourcePath(job.source);
     QStringList result = {"backup", "--json"};
-    if (kibibytesPerSecond > 0) {
-        result += {"--limit-upload", QString::number(kibibytesPerSecond)};
+    if (job.uploadLimit > 0) {
+        result += {"--limit-upload", QString::number(job.uploadLimit)};
     }
     // A repository inside the source would grow by itself with each run.
     QString repository = Restic::sourcePath(job.repository);
@@ -56,7 +56,7 @@ BackupRun::BackupRun(QObject *parent)
 // restic would refuse what is refused here, or not in words that help.
 bool BackupRun::backUp(const BackupJob &job)
 {
-    QList<QStringList> steps = {backUpArguments(job, m_uploadLimit)};
+    QList<QStringList> steps = {backUpArguments(job)};
     if (job.verify) {
         steps.append(QStringList{"check", "--read-data"});
     }
@@ -117,7 +117,7 @@ void BackupRun::startStep()
     m_progress.fraction = -1;
     m_progress.activity = activities.value(command(), tr("Preparing"));
     emit progressChanged(m_progress);
-    m_run.start(m_job.repository, m_job.password, m_steps.constFirst());
+    m_run.start(m_job, m_steps.constFirst());
     if (m_isCancelled && command() != "unlock") {
         m_run.cancel();
     }
@@ -184,15 +184,12 @@ void BackupRun::answer(bool yes)
 {
     const Outcome unanswered = m_unanswered;
     m_unanswered = Outcome();
-    if (unanswered.isGood()) {
-        return;
-    }
-    if (!yes) {
+    if (!yes && !unanswered.isGood()) {
         end(unanswered);
     } else if (unanswered.kind == Outcome::Locked) {
         m_steps.prepend(QStringList("unlock"));
         startStep();
-    } else {
+    } else if (!unanswered.isGood()) {
         create();
     }
 }

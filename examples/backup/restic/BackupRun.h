@@ -18,7 +18,6 @@ struct BackupProgress
     /// With the current file at its end.
     QString activity;
 
-    /// One line.
     QString text() const;
 };
 
@@ -43,11 +42,6 @@ public:
     qint64 bytesDone() const
     {
         return m_progress.bytesDone;
-    }
-    /// 0 is none. From the next run on.
-    void setUploadLimit(int kibibytesPerSecond)
-    {
-        m_uploadLimit = kibibytesPerSecond;
     }
 
     /// Each returns false, and nothing happens, while a run is under way; else finished() follows.
@@ -90,7 +84,6 @@ private:
     /// Held while the repository is made.
     std::unique_ptr<QLockFile> m_creation;
     bool m_isCancelled = false;
-    int m_uploadLimit = 0;
     BackupProgress m_progress;
     Outcome m_outcome;
 };

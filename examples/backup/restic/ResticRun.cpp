@@ -65,14 +65,12 @@ ResticRun::~ResticRun()
     }
 }
 
-void ResticRun::start(const QString &repository, const QString &password,
-                      const QStringList &arguments, const QString &outputFile)
+void ResticRun::start(const BackupJob &job, const QStringList &arguments, const QString &outputFile)
 {
-    m_repository = repository;
-    m_password = password;
+    m_job = job;
     m_arguments = arguments;
     m_outputFile = outputFile;
-    m_skippedLines = 0;
+    m_outcome = Outcome();
     m_isCancelled = false;
     m_asksVersion = true;
     QTimer::singleShot(0, this, &ResticRun::launch);
@@ -96,14 +94,10 @@ void ResticRun::launch()
     }
     m_lastErrors.clear();
     m_process = new QProcess(this);
-    m_process->setProcessEnvironment(Restic::environment(m_repository));
+    m_process->setProcessEnvironment(Restic::environment(m_job.repository));
     m_process->setStandardOutputFile(m_asksVersion ? QString() : m_outputFile);
-    connect(m_process, &QProcess::readyReadStandardOutput, this, [this] {
-        readChannel(QProcess::StandardOutput);
-    });
-    connect(m_process, &QProcess::readyReadStandardError, this, [this] {
-        readChannel(QProcess::StandardError);
-    });
+    connect(m_process, &QProcess::readyReadStandardOutput, this, &ResticRun::read);
+    connect(m_process, &QProcess::readyReadStandardError, this, &ResticRun::read);
     // Comes whether it ran or not, maybe from within start().
     connect(m_process, &QProcess::stateChanged, this, [this](QProcess::ProcessState state) {
         if (state == QProcess::NotRunning) {
@@ -114,19 +108,21 @@ void ResticRun::launch()
     m_process->start(settings.value("restic", "restic").toString(),
                      m_asksVersion ? QStringList("version") : m_arguments);
     if (!m_asksVersion && m_process->state() != QProcess::NotRunning) {
-        m_process->write(m_password.toUtf8() + '\n');
+        m_process->write(m_job.password.toUtf8() + '\n');
     }
     m_process->closeWriteChannel();
 }
 
-void ResticRun::readChannel(QProcess::ProcessChannel channel)
+void ResticRun::read()
 {
-    m_process->setReadChannel(channel);
     const bool isAtEnd = m_process->state() == QProcess::NotRunning;
-    while (m_process->canReadLine() || (isAtEnd && m_process->bytesAvailable() > 0)
-           || m_process->bytesAvailable() > longestLine) {
-        const QByteArray line = m_process->readLine(longestLine).trimmed();
-        channel == QProcess::StandardOutput ? readLine(line) : readErrorLine(line);
+    for (QProcess::ProcessChannel channel : {QProcess::StandardOutput, QProcess::StandardError}) {
+        m_process->setReadChannel(channel);
+        while (m_process->canReadLine() || (isAtEnd && m_process->bytesAvailable() > 0)
+               || m_process->bytesAvailable() > longestLine) {
+            const QByteArray line = m_process->readLine(longestLine).trimmed();
+            channel == QProcess::StandardOutput ? readLine(line) : readErrorLine(line);
+        }
     }
 }
 
@@ -139,7 +135,7 @@ void ResticRun::readLine(const QByteArray &line)
         emit message(document);
     } else if (m_arguments.contains("--json") && !line.isEmpty()
                && !line.startsWith("reading repository password")) {
-        ++m_skippedLines;
+        ++m_outcome.skippedLines;
     }
 }
 
@@ -158,8 +154,7 @@ void ResticRun::readErrorLine(const QByteArray &line)
 
 void ResticRun::end()
 {
-    readChannel(QProcess::StandardOutput);
-    readChannel(QProcess::StandardError);
+    read();
     const Outcome::Kind kind = kindOfEnd();
     m_process->deleteLater();
     m_process = nullptr;
@@ -186,10 +181,8 @@ Outcome::Kind ResticRun::kindOfEnd() const
 
 void ResticRun::finish(Outcome::Kind kind)
 {
-    Outcome outcome;
-    outcome.kind = kind;
-    outcome.details = m_lastErrors.join(QLatin1Char('\n'));
-    outcome.skippedLines = m_skippedLines;
-    m_password.clear();
-    emit finished(outcome);
+    m_outcome.kind = kind;
+    m_outcome.details = m_lastErrors.join(QLatin1Char('\n'));
+    m_job.password.clear();
+    emit finished(m_outcome);
 }

@@ -73,8 +73,7 @@ void SnapshotListing::open(const BackupJob &job, const QString &snapshot)
         m_outcome = outcome;
         m_isWritten = true;
     });
-    m_run->start(job.repository, job.password, {"ls", "--json", "--no-lock", "--", snapshot},
-                 m_file.fileName());
+    m_run->start(job, {"ls", "--json", "--no-lock", "--", snapshot}, m_file.fileName());
 }
 
 void SnapshotListing::requestPage(int count)

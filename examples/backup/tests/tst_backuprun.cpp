@@ -230,7 +230,7 @@ void tst_BackupRun::theLimitSlowsTheNextRun()
     m_sandbox->backUp();
     m_sandbox->fillSource(1, 300000);
     BackupRun run;
-    run.setUploadLimit(100);
+    m_sandbox->job.uploadLimit = 100;
     QElapsedTimer timer;
     timer.start();
     run.backUp(m_sandbox->job);
@@ -245,7 +245,7 @@ void tst_BackupRun::progressIsTold()
     m_sandbox->backUp();
     m_sandbox->fillSource(30, 100000);
     BackupRun run;
-    run.setUploadLimit(600); // so that there is time to tell
+    m_sandbox->job.uploadLimit = 600; // so that there is time to tell
     run.backUp(m_sandbox->job);
     const Record record = recordOf(&run);
     QVERIFY(record.progress.join('|').contains(QRegularExpression("[0-9]+ %  Backing up: ")));
@@ -270,7 +270,7 @@ void tst_BackupRun::cancellingEndsTheRunAndLeavesNoLock()
     m_sandbox->backUp();
     m_sandbox->fillSource(100, 1000000);
     BackupRun run;
-    run.setUploadLimit(100);
+    m_sandbox->job.uploadLimit = 100;
     QObject::connect(&run, &BackupRun::progressChanged, [&run](const BackupProgress &progress) {
         if (progress.bytesDone > 0) {
             run.cancel();
@@ -279,6 +279,7 @@ void tst_BackupRun::cancellingEndsTheRunAndLeavesNoLock()
     run.backUp(m_sandbox->job);
     QCOMPARE(recordOf(&run).outcome.kind, Outcome::Cancelled);
     QVERIFY(!m_sandbox->isLocked());
+    m_sandbox->job.uploadLimit = 0;
     m_sandbox->job.verify = true;
     QCOMPARE(m_sandbox->backUp(false).outcome.kind, Outcome::Done);
 }
@@ -318,7 +319,7 @@ void tst_BackupRun::aLiveLockIsNotRemoved()
     m_sandbox->backUp();
     m_sandbox->fillSource(20, 1000000);
     BackupRun slow;
-    slow.setUploadLimit(100);
+    m_sandbox->job.uploadLimit = 100;
     slow.backUp(m_sandbox->job);
     QTRY_VERIFY_WITH_TIMEOUT(m_sandbox->isLocked(), 30000);
     const Record record = m_sandbox->verify();

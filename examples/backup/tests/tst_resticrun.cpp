@@ -38,7 +38,8 @@ private slots:
 private:
     void fake(const QByteArray &output, const QByteArray &errors = QByteArray(),
               const QByteArray &status = "0") const;
-    Outcome run(ResticRun *run, const QStringList &arguments = {QStringLiteral("--json")}) const;
+    Outcome run(ResticRun *run, const QStringList &arguments = {QStringLiteral("--json")},
+                const QString &outputFile = QString()) const;
     Outcome backUp() const;
 
     QScopedPointer<Sandbox> m_sandbox;
@@ -67,10 +68,11 @@ void tst_ResticRun::fake(const QByteArray &output, const QByteArray &errors,
     qputenv("FAKERESTIC_STATUS", status);
 }
 
-Outcome tst_ResticRun::run(ResticRun *run, const QStringList &arguments) const
+Outcome tst_ResticRun::run(ResticRun *run, const QStringList &arguments,
+                           const QString &outputFile) const
 {
     QSignalSpy finished(run, &ResticRun::finished);
-    run->start(m_sandbox->job.repository, m_sandbox->job.password, arguments);
+    run->start(m_sandbox->job, arguments, outputFile);
     return finished.wait(30000) ? finished.first().first().value<Outcome>() : Outcome();
 }
 
@@ -320,7 +322,7 @@ void tst_ResticRun::theOutputGoesIntoAFile()
     ResticRun restic;
     QSignalSpy messages(&restic, &ResticRun::message);
     QSignalSpy finished(&restic, &ResticRun::finished);
-    restic.start(m_sandbox->job.repository, m_sandbox->job.password, {QStringLiteral("--json")},
+    restic.start(m_sandbox->job, {QStringLiteral("--json")},
                  QFile::decodeName(m_sandbox->path("list")));
     QVERIFY(finished.wait(30000));
     QCOMPARE(finished.first().first().value<Outcome>().skippedLines, 0);

@@ -10,14 +10,11 @@ namespace {
 
 QString typeText(const SnapshotFile &file)
 {
-    if (file.type == "dir") {
-        return FileListModel::tr("folder");
-    }
-    if (file.type == "symlink") {
-        return FileListModel::tr("link");
-    }
     const QString suffix = QFileInfo(file.path).suffix();
-    return suffix.isEmpty() ? FileListModel::tr("file") : suffix;
+    return file.type == "dir"    ? FileListModel::tr("folder")
+        : file.type == "symlink" ? FileListModel::tr("link")
+        : suffix.isEmpty()       ? FileListModel::tr("file")
+                                 : suffix;
 }
 
 QString cellText(const SnapshotFile &file, int column)
@@ -38,14 +35,9 @@ QString cellText(const SnapshotFile &file, int column)
 
 bool isBefore(const SnapshotFile &left, const SnapshotFile &right, int column)
 {
-    switch (column) {
-    case FileListModel::Modified:
-        return left.modified < right.modified;
-    case FileListModel::Size:
-        return left.size < right.size;
-    default:
-        return cellText(left, column) < cellText(right, column);
-    }
+    return column == FileListModel::Modified ? left.modified < right.modified
+        : column == FileListModel::Size      ? left.size < right.size
+                                             : cellText(left, column) < cellText(right, column);
 }
 
 } // namespace

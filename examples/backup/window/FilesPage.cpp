@@ -139,8 +139,7 @@ void FilesPage::load()
     connect(m_reading.get(), &ResticRun::message, this, &FilesPage::offer);
     connect(m_reading.get(), &ResticRun::finished, this, &FilesPage::showOutcome);
     m_reading->start(
-        m_job.repository, m_job.password,
-        {"snapshots", "--json", "--no-lock", "--path", Restic::sourcePath(m_job.source)});
+        m_job, {"snapshots", "--json", "--no-lock", "--path", Restic::sourcePath(m_job.source)});
 }
 
 void FilesPage::clear(const QString &hint)
@@ -181,12 +180,9 @@ void FilesPage::restore()
 {
     const QString folder
         = QFileDialog::getExistingDirectory(this, tr("Empty folder to restore into"));
-    if (folder.isEmpty()) {
-        return;
-    }
-    if (m_run->restore(m_job, m_snapshots->currentData().toString(), folder)) {
+    if (!folder.isEmpty() && m_run->restore(m_job, m_snapshots->currentData().toString(), folder)) {
         emit started(tr("Restoring \"%1\" into %2").arg(m_job.name, folder));
-    } else {
+    } else if (!folder.isEmpty()) {
         emit message(tr("Nothing was restored: there is one run at a time."));
     }
 }

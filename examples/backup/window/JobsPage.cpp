@@ -58,11 +58,7 @@ void JobsPage::setUpTable()
     connect(m_table,
             QOverload<QWidget *, int, int, QStringList>::of(&EditableTableView::buttonClicked),
             this, [this](QWidget *, int row, int column) {
-                if (column == JobModel::Run) {
-                    runJob(row);
-                } else {
-                    removeJob(row);
-                }
+                column == JobModel::Run ? runJob(row) : removeJob(row);
             });
 
     // The rest is as with any table view.
@@ -181,7 +177,8 @@ void JobsPage::addJob()
 
 void JobsPage::runJob(int row)
 {
-    const BackupJob job = m_jobs->job(row);
+    BackupJob job = m_jobs->job(row);
+    job.uploadLimit = m_bandwidthLimit->value();
     if (row == m_running.row()) {
         m_run->cancel();
     } else if (m_run->isRunning()) {
@@ -201,7 +198,6 @@ void JobsPage::start(int row, BackupJob job)
         job.password
             = QInputDialog::getText(this, window()->windowTitle(), question, QLineEdit::Password);
     }
-    m_run->setUploadLimit(m_bandwidthLimit->value());
     if (!job.password.isEmpty() && m_run->backUp(job)) {
         m_running = m_jobs->index(row, JobModel::Run);
         dressButtons();

@@ -64,11 +64,8 @@ QWidget *MainWindow::makePages()
     connect(jobs, &JobsPage::currentJobChanged, files, setJob);
     connect(jobs, &JobsPage::started, this, &MainWindow::showStart);
     connect(files, &FilesPage::started, this, &MainWindow::showStart);
-    const auto showMessage = [this](const QString &text) {
-        statusBar()->showMessage(text);
-    };
-    connect(jobs, &JobsPage::message, this, showMessage);
-    connect(files, &FilesPage::message, this, showMessage);
+    connect(jobs, SIGNAL(message(QString)), statusBar(), SLOT(showMessage(QString)));
+    connect(files, SIGNAL(message(QString)), statusBar(), SLOT(showMessage(QString)));
     return pages;
 }
 
