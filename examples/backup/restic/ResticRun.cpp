@@ -45,6 +45,14 @@ QProcessEnvironment Restic::environment(const QString &repository)
     return result;
 }
 
+QJsonDocument Restic::messageIn(const QByteArray &line, int *skippedLines)
+{
+    QJsonDocument message = QJsonDocument::fromJson(line);
+    const bool isOther = line.trimmed().isEmpty() || line.startsWith("reading repository password");
+    *skippedLines += message.isNull() && !isOther ? 1 : 0;
+    return message;
+}
+
 QString Restic::sourcePath(const QString &typed)
 {
     const QFileInfo source(address(typed));
@@ -128,14 +136,13 @@ void ResticRun::read()
 
 void ResticRun::readLine(const QByteArray &line)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(line);
     if (m_asksVersion) {
         m_lastErrors.append(QString::fromUtf8(line));
-    } else if (!document.isNull()) {
-        emit message(document);
-    } else if (m_arguments.contains("--json") && !line.isEmpty()
-               && !line.startsWith("reading repository password")) {
-        ++m_outcome.skippedLines;
+    } else if (m_arguments.contains("--json")) {
+        const QJsonDocument document = Restic::messageIn(line, &m_outcome.skippedLines);
+        if (!document.isNull()) {
+            emit message(document);
+        }
     }
 }
 
@@ -175,7 +182,10 @@ Outcome::Kind ResticRun::kindOfEnd() const
     if (m_asksVersion) {
         return Restic::isNewEnough(errors) ? Outcome::Done : Outcome::TooOld;
     }
-    const Outcome::Kind kind = Outcome::kindOf(m_process->exitCode(), errors);
+    // Some versions, 0.14 and 0.19 among them, end with 0 though what they list was cut off.
+    const bool isCutOff = !m_outputFile.isEmpty() && m_process->exitCode() == 0
+        && (errors.contains("JSON encode failed") || errors.contains("write failed"));
+    const Outcome::Kind kind = Outcome::kindOf(isCutOff ? 1 : m_process->exitCode(), errors);
     return m_isCancelled && kind != Outcome::Done ? Outcome::Cancelled : kind;
 }
 

@@ -15,6 +15,8 @@ namespace Restic {
 
 /// Of what "restic version" prints. Older ones call a restore done that has left files out.
 bool isNewEnough(const QString &version);
+/// Null if there is none; a line that makes no sense is counted.
+QJsonDocument messageIn(const QByteArray &line, int *skippedLines);
 /// This process's environment, without what would beat the password from the standard input.
 QProcessEnvironment environment(const QString &repository);
 /// An absolute path without links, which restic would store in place of what they lead to.

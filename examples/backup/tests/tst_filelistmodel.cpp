@@ -123,7 +123,7 @@ void tst_FileListModel::isEmptyWithoutASnapshot()
 
     listing.model.setSnapshot(listing.sandbox.job, QString());
 
-    QCOMPARE(listing.model.rowCount(), 0);
+    QTRY_COMPARE(listing.model.rowCount(), 0);
 }
 
 void tst_FileListModel::deliversPagesInOneInsertionEach()

@@ -146,7 +146,7 @@ void tst_FilesPage::tellsAWrongPassword()
     window.showPage(filesPage);
 
     QTRY_VERIFY_WITH_TIMEOUT(window.shows(QStringLiteral("not the repository's password")), 60000);
-    QCOMPARE(window.listedNames(), QStringList());
+    QTRY_COMPARE(window.listedNames(), QStringList());
     QVERIFY(!pushButton(window, QStringLiteral("&Restore..."))->isEnabled());
 }
 
@@ -173,7 +173,7 @@ void tst_FilesPage::listsNothingForAJobWithoutRepository()
     window.showPage(filesPage);
 
     QVERIFY(window.shows(QStringLiteral("no repository")));
-    QCOMPARE(window.listedNames(), QStringList());
+    QTRY_COMPARE(window.listedNames(), QStringList());
 }
 
 void tst_FilesPage::restoresTheChosenSnapshot()

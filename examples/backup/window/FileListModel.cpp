@@ -47,10 +47,7 @@ FileListModel::FileListModel(QObject *parent)
 {
     setHorizontalHeaderLabels({tr("Name"), tr("Modified"), tr("Size"), tr("Type"), tr("Rights")});
     connect(&m_listing, &SnapshotListing::pageRead, this, &FileListModel::takePage);
-    connect(&m_listing, &SnapshotListing::failed, this, [this](const Outcome &outcome) {
-        takePage({}, true);
-        emit failed(outcome);
-    });
+    connect(&m_listing, &SnapshotListing::failed, this, &FileListModel::failed);
     // Connected before any view is, so that the files agree with the rows when a view looks.
     connect(this, &FileListModel::rowsInserted, this, [this] {
         m_files += m_page;
@@ -60,15 +57,9 @@ FileListModel::FileListModel(QObject *parent)
 
 void FileListModel::setSnapshot(const BackupJob &job, const QString &id)
 {
-    // The listing forgets a page that was asked for; the list waits for it and does not ask again.
-    const bool isAwaited = m_isRequested;
-    m_hasSnapshot = !id.isEmpty();
     m_files.clear();
     m_listing.open(job, id);
     emit dataChanged(); // at which the list removes the rows
-    if (isAwaited) {
-        LoadItems();
-    }
 }
 
 void FileListModel::setPageSize(int count)
@@ -78,17 +69,11 @@ void FileListModel::setPageSize(int count)
 
 void FileListModel::LoadItems()
 {
-    m_isRequested = true;
-    if (m_hasSnapshot) {
-        m_listing.requestPage(m_pageSize);
-    } else {
-        takePage({}, true);
-    }
+    m_listing.requestPage(m_pageSize);
 }
 
 void FileListModel::takePage(const QList<SnapshotFile> &files, bool completed)
 {
-    m_isRequested = false;
     if (!files.isEmpty()) {
         m_page = files;
         insertRows(int(m_files.size()), int(files.size()));

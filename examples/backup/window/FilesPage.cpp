@@ -163,6 +163,7 @@ void FilesPage::offer(const QJsonDocument &message)
 
 void FilesPage::listFiles()
 {
+    m_hint->clear();
     m_model->setSnapshot(m_job, m_snapshots->currentData().toString());
     m_restore->setEnabled(m_snapshots->currentIndex() >= 0);
 }
