@@ -201,7 +201,9 @@ void BackupRun::create()
         = QString("tessaline-%1.lock").arg(qHash(Restic::sourcePath(m_job.repository)));
     m_creation.reset(new QLockFile(QDir::temp().filePath(name)));
     m_creation->setStaleLockTime(0);
-    if (m_isCancelled || m_creation->tryLock(0)) {
+    // Where no lock can be made at all, waiting would not help.
+    if (m_isCancelled || m_creation->tryLock(0)
+        || m_creation->error() != QLockFile::LockFailedError) {
         m_steps.prepend(QStringList("init"));
         startStep();
     } else {

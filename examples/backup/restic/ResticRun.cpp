@@ -106,16 +106,18 @@ void ResticRun::launch()
     m_process->setStandardOutputFile(m_asksVersion ? QString() : m_outputFile);
     connect(m_process, &QProcess::readyReadStandardOutput, this, &ResticRun::read);
     connect(m_process, &QProcess::readyReadStandardError, this, &ResticRun::read);
-    // Comes whether it ran or not, maybe from within start().
+    const QSettings settings(JobStore::defaultFilePath(), QSettings::IniFormat);
+    m_process->start(settings.value("restic", "restic").toString(),
+                     m_asksVersion ? QStringList("version") : m_arguments);
+    // After start(), which fails without a change of state if the program has no name.
     connect(m_process, &QProcess::stateChanged, this, [this](QProcess::ProcessState state) {
         if (state == QProcess::NotRunning) {
             QTimer::singleShot(0, this, &ResticRun::end);
         }
     });
-    const QSettings settings(JobStore::defaultFilePath(), QSettings::IniFormat);
-    m_process->start(settings.value("restic", "restic").toString(),
-                     m_asksVersion ? QStringList("version") : m_arguments);
-    if (!m_asksVersion && m_process->state() != QProcess::NotRunning) {
+    if (m_process->state() == QProcess::NotRunning) {
+        QTimer::singleShot(0, this, &ResticRun::end);
+    } else if (!m_asksVersion) {
         m_process->write(m_job.password.toUtf8() + '\n');
     }
     m_process->closeWriteChannel();
@@ -162,6 +164,10 @@ void ResticRun::readErrorLine(const QByteArray &line)
 void ResticRun::end()
 {
     read();
+    // The version was asked for, so restic itself is there.
+    if (!m_asksVersion && m_process->error() == QProcess::FailedToStart) {
+        m_lastErrors.append(m_process->errorString());
+    }
     const Outcome::Kind kind = kindOfEnd();
     m_process->deleteLater();
     m_process = nullptr;
@@ -174,7 +180,7 @@ Outcome::Kind ResticRun::kindOfEnd() const
 {
     const QString errors = m_lastErrors.join(QLatin1Char('\n'));
     if (m_process->error() == QProcess::FailedToStart) {
-        return Outcome::Missing;
+        return m_asksVersion ? Outcome::Missing : Outcome::Failed;
     }
     if (m_process->exitStatus() == QProcess::CrashExit) {
         return m_isCancelled ? Outcome::Cancelled : Outcome::Crashed;

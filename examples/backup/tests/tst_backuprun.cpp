@@ -33,6 +33,7 @@ private slots:
     void onlyOneRunAtATime();
     void cancellingEndsTheRunAndLeavesNoLock();
     void cancellingDuringAQuestionEndsTheRun();
+    void aRunEndsWithoutATemporaryFolder();
     void aStaleLockIsRemovedAfterAQuestion();
     void aStaleLockStaysWithoutConsent();
     void aLiveLockIsNotRemoved();
@@ -295,6 +296,25 @@ void tst_BackupRun::cancellingDuringAQuestionEndsTheRun()
     QVERIFY(!run.isRunning());
     run.answer(true);
     QVERIFY(!run.isRunning());
+}
+
+// restic needs one too, so it fails later; but nothing waits for ever.
+void tst_BackupRun::aRunEndsWithoutATemporaryFolder()
+{
+    const QByteArray usual = qgetenv("TMPDIR");
+    qputenv("TMPDIR", "/proc"); // where not even root can make a file
+    BackupRun run;
+    Record record;
+    ::record(&run, &record, true);
+    run.backUp(m_sandbox->job);
+    const bool hasFinished = QTest::qWaitFor(
+        [&record] {
+            return record.hasFinished;
+        },
+        60000);
+    usual.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", usual);
+    QVERIFY(hasFinished);
+    QVERIFY(QFile::exists(m_sandbox->job.repository + QStringLiteral("/config")));
 }
 
 void tst_BackupRun::aStaleLockIsRemovedAfterAQuestion()

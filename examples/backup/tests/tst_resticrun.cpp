@@ -27,6 +27,7 @@ private slots:
     void otherVersionsAreRefusedOrTaken();
     void aProgramThatIsReplacedIsLookedAtAgain();
     void aCrashIsTold();
+    void aProgramThatDoesNotStartIsMissing_data();
     void aProgramThatDoesNotStartIsMissing();
     void cancellingEndsIt_data();
     void cancellingEndsIt();
@@ -34,6 +35,7 @@ private slots:
     void exitStatusAndWordsAreUnderstood();
     void thePasswordGoesToTheStandardInputOnly();
     void theOutputGoesIntoAFile();
+    void aFileThatCannotBeWrittenIsAFailure();
 
 private:
     void fake(const QByteArray &output, const QByteArray &errors = QByteArray(),
@@ -198,11 +200,20 @@ void tst_ResticRun::aCrashIsTold()
     QCOMPARE(outcome.details, QStringLiteral("panic: oh"));
 }
 
+void tst_ResticRun::aProgramThatDoesNotStartIsMissing_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::newRow("nothing") << "/no/such/program";
+    QTest::newRow("a folder") << "/";
+    QTest::newRow("a setting left blank") << "";
+}
+
 void tst_ResticRun::aProgramThatDoesNotStartIsMissing()
 {
-    // There, but no program.
-    m_sandbox->useProgram(m_sandbox->job.source);
-    const Outcome outcome = backUp();
+    QFETCH(QString, program);
+    m_sandbox->useProgram(program);
+    ResticRun restic;
+    const Outcome outcome = run(&restic);
     QCOMPARE(outcome.kind, Outcome::Missing);
     QVERIFY(outcome.text().contains(QLatin1String("Install the package \"restic\"")));
 }
@@ -328,6 +339,15 @@ void tst_ResticRun::theOutputGoesIntoAFile()
     QCOMPARE(finished.first().first().value<Outcome>().skippedLines, 0);
     QCOMPARE(messages.count(), 0);
     QCOMPARE(readFile(m_sandbox->path("list")), QByteArray("{\"a\":1}\nanything\n"));
+}
+
+void tst_ResticRun::aFileThatCannotBeWrittenIsAFailure()
+{
+    fake("{}\n");
+    ResticRun restic;
+    const Outcome outcome = run(&restic, {}, QStringLiteral("/no/such/folder/list"));
+    QCOMPARE(outcome.kind, Outcome::Failed);
+    QVERIFY2(outcome.text().size() > 20, qPrintable(outcome.text()));
 }
 
 QTEST_GUILESS_MAIN(tst_ResticRun)
