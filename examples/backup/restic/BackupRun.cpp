@@ -19,9 +19,10 @@ QStringList backUpArguments(const BackupJob &job)
     if (job.uploadLimit > 0) {
         result += {"--limit-upload", QString::number(job.uploadLimit)};
     }
-    // A repository inside the source would grow by itself with each run.
+    // Inside the source it would grow by itself with each run; around it, all would be excluded.
     QString repository = Restic::sourcePath(job.repository);
-    if (QFileInfo::exists(repository) && repository != source) {
+    if (repository != source
+        && repository.startsWith(source.endsWith('/') ? source : source + '/')) {
         static const QRegularExpression special("([*?\\[\\\\])");
         result += {"--exclude", repository.replace(special, "\\\\1")};
     }
