@@ -159,7 +159,6 @@ void BackupRun::endStep(const Outcome &outcome)
         m_outcome.achieved += tr("Restored below %1.").arg(m_steps.constFirst().at(2));
     } else if (outcome.kind == Outcome::Incomplete) {
         m_outcome.kind = outcome.kind;
-        m_outcome.details = outcome.details;
     } else if (!outcome.isGood() && command() != "unlock" && !isMadeByOther) {
         askOrEnd(outcome);
         return;

@@ -151,13 +151,14 @@ void ResticRun::readLine(const QByteArray &line)
 void ResticRun::readErrorLine(const QByteArray &line)
 {
     const QJsonObject message = QJsonDocument::fromJson(line).object();
-    QString text = message.value("message").toString(QString::fromUtf8(line));
     if (message.contains("error")) {
         // Versions before 0.16 say why in numbers of the system.
         const QJsonValue reason = message.value("error").toObject().value("message");
-        text = message.value("item").toString() + ": " + reason.toString(tr("cannot be read"));
-        emit problemFound(text);
+        emit problemFound(message.value("item").toString() + ": "
+                          + reason.toString(tr("cannot be read")));
+        return;
     }
+    const QString text = message.value("message").toString(QString::fromUtf8(line));
     m_lastErrors = (m_lastErrors << text).mid(m_lastErrors.size() - 20);
 }
 

@@ -68,8 +68,8 @@ QString fakeRestic();
 QByteArray allProcesses();
 QByteArray readFile(const QByteArray &path);
 void writeFile(const QByteArray &path, const QByteArray &content);
-/// Flips a byte in the middle of the largest pack.
-void damage(const QByteArray &repository);
+/// Flips a byte in the middle of the largest file of a kind: "data" for packs, "index".
+void damage(const QByteArray &repository, const QByteArray &kind = "data");
 /// Makes files, folders and links with names, modes and times of every kind.
 void makeOddTree(const QByteArray &folder);
 /// What there is below a folder: names, types, modes, times, link targets, contents.

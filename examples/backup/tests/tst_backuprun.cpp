@@ -19,6 +19,7 @@ private slots:
     void withoutConsentNothingIsMade();
     void aSecondRunStoresWhatHasChanged();
     void verifyingReadsTheRepositoryBack();
+    void aFlippedByteIsDamage_data();
     void aFlippedByteIsDamage();
     void aWrongPasswordIsToldAndLosesNothing();
     void anEmptyPasswordIsRefused();
@@ -118,11 +119,19 @@ void tst_BackupRun::verifyingReadsTheRepositoryBack()
     QCOMPARE(record.progress.constLast(), QStringLiteral("Verifying"));
 }
 
+void tst_BackupRun::aFlippedByteIsDamage_data()
+{
+    QTest::addColumn<QByteArray>("kind");
+    QTest::newRow("in a pack") << QByteArray("data");
+    QTest::newRow("in the index") << QByteArray("index");
+}
+
 void tst_BackupRun::aFlippedByteIsDamage()
 {
+    QFETCH(QByteArray, kind);
     m_sandbox->fillSource(1, 100000);
     m_sandbox->backUp();
-    damage(m_sandbox->repository());
+    damage(m_sandbox->repository(), kind);
     const Record record = m_sandbox->verify();
     QCOMPARE(record.outcome.kind, Outcome::Damaged);
     QVERIFY(!record.outcome.text().contains("no errors"));
@@ -193,6 +202,7 @@ void tst_BackupRun::unreadableFilesMakeTheBackupIncomplete()
     const Record record = m_sandbox->backUp();
     QCOMPARE(record.outcome.kind, Outcome::Incomplete);
     QVERIFY(record.problems.join(QLatin1Char('\n')).contains(QLatin1String("/compact_memory: ")));
+    QVERIFY2(record.outcome.details.isEmpty(), qPrintable(record.outcome.details));
     QCOMPARE(m_sandbox->snapshotCount(), 1);
 }
 

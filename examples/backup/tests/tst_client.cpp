@@ -184,7 +184,8 @@ void tst_Client::incompleteBackupsEndWithThree()
     }
     m_sandbox->job.source = QStringLiteral("/proc/sys/vm");
     QCOMPARE(m_client->run(backUpArguments(*m_sandbox, {initOption})), 3);
-    QVERIFY(m_client->errors.contains("/proc/sys/vm/compact_memory: "));
+    // Some versions name the file once more in the reason.
+    QCOMPARE(('\n' + m_client->errors).count("\n/proc/sys/vm/compact_memory: "), 1);
 }
 
 void tst_Client::damageEndsWithFour()
@@ -384,7 +385,7 @@ void tst_Client::aFullDiskIsToldAndTheNextRunWorks()
     }
     const auto full = output.indexOf("status 1\n");
     QVERIFY2(full > 0 && output.indexOf("status 0\n") < full, output.constData());
-    QVERIFY2(output.left(full).contains("no space left for the repository"), output.constData());
+    QVERIFY2(output.left(full).contains("There is no space left."), output.constData());
     QVERIFY2(output.mid(full).contains("no errors"), output.constData());
     QVERIFY2(output.endsWith("status 0\n"), output.constData());
 }

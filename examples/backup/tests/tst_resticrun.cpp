@@ -22,6 +22,7 @@ private slots:
     void whatIsNoMessageIsSkippedAndCounted();
     void unknownMessagesAreIgnored();
     void aLineThatNeverEndsDoesNotFillTheMemory();
+    void problemsAreTold();
     void manyErrorsAreNotAllKept();
     void otherVersionsAreRefusedOrTaken_data();
     void otherVersionsAreRefusedOrTaken();
@@ -145,19 +146,32 @@ void tst_ResticRun::aLineThatNeverEndsDoesNotFillTheMemory()
     }
 }
 
-void tst_ResticRun::manyErrorsAreNotAllKept()
+void tst_ResticRun::problemsAreTold()
 {
     QByteArray errors;
     for (int number = 0; number < 10000; ++number) {
         errors += "{\"message_type\":\"error\",\"error\":{\"message\":\"no\"},\"item\":\"/f"
             + QByteArray::number(number) + "\"}\n";
     }
-    fake("", errors, "3");
+    fake("", errors + "Fatal: oh\n", "1");
     const Record record = m_sandbox->backUp();
-    QCOMPARE(record.outcome.kind, Outcome::Incomplete);
     QCOMPARE(record.problems.size(), 10000);
     QCOMPARE(record.problems.last(), QStringLiteral("/f9999: no"));
-    QCOMPARE(record.outcome.details.count(QLatin1Char('\n')), 19);
+    // Not those that have been told.
+    QCOMPARE(record.outcome.details, QStringLiteral("Fatal: oh"));
+}
+
+void tst_ResticRun::manyErrorsAreNotAllKept()
+{
+    QByteArray errors;
+    for (int number = 0; number < 10000; ++number) {
+        errors += "no " + QByteArray::number(number) + '\n';
+    }
+    fake("", errors, "1");
+    ResticRun restic;
+    const QString details = run(&restic).details;
+    QCOMPARE(details.count(QLatin1Char('\n')), 19);
+    QVERIFY(details.endsWith(QLatin1String("no 9999")));
 }
 
 void tst_ResticRun::otherVersionsAreRefusedOrTaken_data()
@@ -250,6 +264,7 @@ void tst_ResticRun::exitStatusAndWordsAreUnderstood_data()
     };
     row("all well", "0", "warning: something\n", Outcome::Done);
     row("anything", "1", "Fatal: oh\n", Outcome::Failed);
+    row("a crash of its own", "2", "panic: oh\ngoroutine 1 [running]:\n", Outcome::Crashed);
     row("without a word", "1", "", Outcome::Failed);
     row("some files not read", "3", "", Outcome::Incomplete);
     row("old, wrong password", "1", "Fatal: wrong password or no key found\n",

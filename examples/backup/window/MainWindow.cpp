@@ -144,7 +144,7 @@ void MainWindow::ask(BackupRun::Question question)
     const QString text = question == BackupRun::CreateRepository
         ? tr("There is no repository there yet. Create one? Whoever loses its password loses the "
              "backups in it.")
-        : tr("A program that is no longer there has left the repository locked. Remove the lock?");
+        : tr("The repository is locked. Remove the lock if the program that made it is gone?");
     m_run->answer(QMessageBox::question(this, windowTitle(), text) == QMessageBox::Yes);
 }
 
