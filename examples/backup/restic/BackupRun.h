@@ -38,6 +38,11 @@ public:
     {
         return !m_steps.isEmpty();
     }
+    /// Of the backup under way, or the last one.
+    QString source() const
+    {
+        return m_job.source;
+    }
     /// By the backup under way, or the last one.
     qint64 bytesDone() const
     {

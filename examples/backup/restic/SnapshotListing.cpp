@@ -21,7 +21,7 @@ QDateTime timeOf(const QJsonObject &object, const char *key)
 
 } // namespace
 
-QList<Snapshot> Snapshot::allIn(const QJsonDocument &message)
+QList<Snapshot> Snapshot::allIn(const QJsonDocument &message, const QString &path)
 {
     QList<Snapshot> snapshots;
     const QJsonArray array = message.array();
@@ -32,7 +32,7 @@ QList<Snapshot> Snapshot::allIn(const QJsonDocument &message)
         snapshot.time = timeOf(object, "time");
         snapshot.host = textOf(object, "hostname");
         snapshot.paths = object.value("paths").toVariant().toStringList();
-        if (!snapshot.id.isEmpty()) {
+        if (!snapshot.id.isEmpty() && (path.isEmpty() || snapshot.paths.contains(path))) {
             snapshots.append(snapshot);
         }
     }

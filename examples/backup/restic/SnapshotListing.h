@@ -21,8 +21,8 @@ struct Snapshot
     QString host;
     QStringList paths;
 
-    /// From the message of "snapshots --json", oldest first; what is none is left out.
-    static QList<Snapshot> allIn(const QJsonDocument &message);
+    /// From the message of "snapshots --json", oldest first; of one path only, if it is not empty.
+    static QList<Snapshot> allIn(const QJsonDocument &message, const QString &path = QString());
 };
 
 /// A file, folder or link in a snapshot.
