@@ -216,6 +216,21 @@ bool Sandbox::isLocked() const
     return !QDir(job.repository + QStringLiteral("/locks")).entryList(names).isEmpty();
 }
 
+void Sandbox::leaveExclusiveLock() const
+{
+    fillSource(40, 1000000);
+    backUp();
+    QProcess check;
+    check.setProcessEnvironment(Restic::environment(job.repository));
+    check.start(realRestic(), {QStringLiteral("check"), QStringLiteral("--read-data")});
+    check.write(job.password.toUtf8() + '\n');
+    check.closeWriteChannel();
+    QTRY_VERIFY_WITH_TIMEOUT(isLocked(), 30000);
+    check.kill();
+    check.waitForFinished();
+    QVERIFY(isLocked());
+}
+
 void Sandbox::useProgram(const QString &program) const
 {
     QSettings(JobStore::defaultFilePath(), QSettings::IniFormat)

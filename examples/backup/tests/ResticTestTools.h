@@ -48,6 +48,8 @@ public:
     int snapshotCount() const;
     /// Whether there is a lock in its place; restic writes it under another name first.
     bool isLocked() const;
+    /// As a verification that was killed does, on more data than is verified in a moment.
+    void leaveExclusiveLock() const;
     /// Makes this the program that is run instead of restic.
     void useProgram(const QString &program) const;
 

@@ -43,8 +43,6 @@ private slots:
     void aRunMayBeDestroyedAtAnyTime();
 
 private:
-    void leaveExclusiveLock() const;
-
     QScopedPointer<Sandbox> m_sandbox;
 };
 
@@ -57,24 +55,6 @@ void tst_BackupRun::init()
 {
     m_sandbox.reset(new Sandbox);
     m_sandbox->write("file", "content");
-}
-
-/// As a verification that was killed does.
-void tst_BackupRun::leaveExclusiveLock() const
-{
-    m_sandbox->fillSource(40, 1000000);
-    m_sandbox->backUp();
-    QProcess check;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("RESTIC_REPOSITORY"), m_sandbox->job.repository);
-    check.setProcessEnvironment(environment);
-    check.start(realRestic(), {QStringLiteral("check"), QStringLiteral("--read-data")});
-    check.write(m_sandbox->job.password.toUtf8() + '\n');
-    check.closeWriteChannel();
-    QTRY_VERIFY_WITH_TIMEOUT(m_sandbox->isLocked(), 30000);
-    check.kill();
-    check.waitForFinished();
-    QVERIFY(m_sandbox->isLocked());
 }
 
 void tst_BackupRun::aBackupMakesTheRepositoryAfterAQuestion()
@@ -338,7 +318,7 @@ void tst_BackupRun::aRunEndsWithoutATemporaryFolder()
 
 void tst_BackupRun::aStaleLockIsRemovedAfterAQuestion()
 {
-    leaveExclusiveLock();
+    m_sandbox->leaveExclusiveLock();
     const Record record = m_sandbox->backUp();
     QCOMPARE(record.questions, {BackupRun::RemoveStaleLock});
     QCOMPARE(record.outcome.kind, Outcome::Done);
@@ -347,7 +327,7 @@ void tst_BackupRun::aStaleLockIsRemovedAfterAQuestion()
 
 void tst_BackupRun::aStaleLockStaysWithoutConsent()
 {
-    leaveExclusiveLock();
+    m_sandbox->leaveExclusiveLock();
     const Record record = m_sandbox->backUp(false);
     QCOMPARE(record.outcome.kind, Outcome::Locked);
     QVERIFY(m_sandbox->isLocked());

@@ -116,8 +116,12 @@ Endstatus:
         <translation>Passwort des Repositorys: </translation>
     </message>
     <message>
-        <source>--init makes a repository, --unlock removes a dead program&apos;s lock.</source>
-        <translation>--init legt ein Repository an, --unlock entfernt die Sperre eines beendeten Programms.</translation>
+        <source>--init makes a repository.</source>
+        <translation>--init legt ein Repository an.</translation>
+    </message>
+    <message>
+        <source>--unlock removes a dead program&apos;s lock.</source>
+        <translation>--unlock entfernt die Sperre eines beendeten Programms.</translation>
     </message>
     <message>
         <source>Say --target, and --run with --source, --verify, --snapshots, or --restore with a snapshot and a folder. --help tells more.</source>

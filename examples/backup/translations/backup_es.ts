@@ -116,8 +116,12 @@ Estado de salida:
         <translation>Contraseña del repositorio: </translation>
     </message>
     <message>
-        <source>--init makes a repository, --unlock removes a dead program&apos;s lock.</source>
-        <translation>--init crea un repositorio y --unlock quita el bloqueo de un programa que ya no existe.</translation>
+        <source>--init makes a repository.</source>
+        <translation>--init crea un repositorio.</translation>
+    </message>
+    <message>
+        <source>--unlock removes a dead program&apos;s lock.</source>
+        <translation>--unlock quita el bloqueo de un programa que ya no existe.</translation>
     </message>
     <message>
         <source>Say --target, and --run with --source, --verify, --snapshots, or --restore with a snapshot and a folder. --help tells more.</source>
