@@ -9,6 +9,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QStatusBar>
 #include <QtTest>
 
@@ -60,6 +61,7 @@ private slots:
     void listsNothingForAJobWithoutRepository();
     void restoresTheChosenSnapshot();
     void restoresTheSnapshotChosenBeforeAskingForAFolder();
+    void namesTheRepositoryAsItIs();
     void restoresNothingIntoAFolderInUse();
     void takesThePageSizeFromItsBox();
     void hintsAtThePageSize();
@@ -275,6 +277,23 @@ void tst_FilesPage::restoresTheSnapshotChosenBeforeAskingForAFolder()
 
     QTRY_VERIFY_WITH_TIMEOUT(window.shows(QStringLiteral("Restored below ") + folder), 60000);
     QCOMPARE(contentBelow(folder, QStringLiteral("a")), QByteArray("first"));
+}
+
+void tst_FilesPage::namesTheRepositoryAsItIs()
+{
+    const Window window;
+    window.jobs()->item(0, JobModel::Repository)->setText(QStringLiteral("/media/R&D"));
+    window.showPage(filesPage);
+    QString label;
+    inNext<QInputDialog>([&label](QInputDialog *dialog) {
+        label = dialog->labelText();
+        dialog->reject();
+    });
+
+    QTest::mouseClick(pushButton(window, QStringLiteral("&Show snapshots")), Qt::LeftButton);
+
+    // One ampersand would be the mark of a shortcut.
+    QVERIFY2(label.contains(QStringLiteral("/media/R&&D:")), qPrintable(label));
 }
 
 void tst_FilesPage::restoresNothingIntoAFolderInUse()

@@ -201,10 +201,6 @@ Endstatus:
         <translation>Dateien je S&amp;eite:</translation>
     </message>
     <message>
-        <source>Password of the repository %1:</source>
-        <translation>Passwort des Repositorys %1:</translation>
-    </message>
-    <message>
         <source>Empty folder to restore into</source>
         <translation>Leerer Ordner für das Wiederhergestellte</translation>
     </message>

@@ -201,10 +201,6 @@ Estado de salida:
         <translation>Archivos por &amp;página:</translation>
     </message>
     <message>
-        <source>Password of the repository %1:</source>
-        <translation>Contraseña del repositorio %1:</translation>
-    </message>
-    <message>
         <source>Empty folder to restore into</source>
         <translation>Carpeta vacía en la que restaurar</translation>
     </message>

@@ -3,6 +3,7 @@
 
 #include <QFileInfo>
 #include <QLocale>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -90,7 +91,11 @@ QVariant FileListModel::data(const QModelIndex &index, int role) const
     if (role == Qt::ToolTipRole && index.column() == Modified) {
         return QLocale().toString(file.modified, QLocale::LongFormat);
     }
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
+    if (role == Qt::ToolTipRole) {
+        // A name may look like HTML.
+        return Qt::convertFromPlainText(cellText(file, index.column()));
+    }
+    if (role == Qt::DisplayRole) {
         return cellText(file, index.column());
     }
     const bool isAligned = role == Qt::TextAlignmentRole && index.column() == Size;

@@ -2,6 +2,7 @@
 #include "FilesPage.h"
 
 #include "FileListModel.h"
+#include "JobsPage.h"
 
 #include <FileListTableView.h>
 #include <SpinBox.h>
@@ -12,7 +13,6 @@
 #include <QFileInfo>
 #include <QFontInfo>
 #include <QHBoxLayout>
-#include <QInputDialog>
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
@@ -116,11 +116,7 @@ void FilesPage::showEvent(QShowEvent *event)
 
 void FilesPage::reload()
 {
-    if (m_job.password.isEmpty()) {
-        const QString question = tr("Password of the repository %1:").arg(m_job.repository);
-        m_job.password
-            = QInputDialog::getText(this, window()->windowTitle(), question, QLineEdit::Password);
-    }
+    JobsPage::askForPassword(this, &m_job);
     load();
 }
 

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 JobsPage::JobsPage(JobModel *jobs, BackupRun *run, QWidget *parent)
@@ -116,6 +117,18 @@ BackupJob JobsPage::currentJob() const
     return row < m_jobs->rowCount() ? m_jobs->job(row) : BackupJob();
 }
 
+bool JobsPage::askForPassword(QWidget *parent, BackupJob *job)
+{
+    if (job->password.isEmpty()) {
+        // One ampersand is the mark of a shortcut there.
+        const QString address = QString(job->repository).replace('&', "&&");
+        const QString question = tr("Password of the repository %1:").arg(address);
+        job->password = QInputDialog::getText(parent, parent->window()->windowTitle(), question,
+                                              QLineEdit::Password);
+    }
+    return !job->password.isEmpty();
+}
+
 // A choice in a combo box is made by choosing: nobody expects to have to press Enter as well.
 bool JobsPage::eventFilter(QObject *watched, QEvent *event)
 {
@@ -186,19 +199,7 @@ void JobsPage::runJob(int row)
     } else if (job.repository.isEmpty()) {
         emit message(tr("Say first where the backups of \"%1\" are to be kept.").arg(job.name));
         editCell(row, JobModel::Repository);
-    } else {
-        start(row, job);
-    }
-}
-
-void JobsPage::start(int row, BackupJob job)
-{
-    if (job.password.isEmpty()) {
-        const QString question = tr("Password of the repository %1:").arg(job.repository);
-        job.password
-            = QInputDialog::getText(this, window()->windowTitle(), question, QLineEdit::Password);
-    }
-    if (!job.password.isEmpty() && m_run->backUp(job)) {
+    } else if (askForPassword(this, &job) && m_run->backUp(job)) {
         m_running = m_jobs->index(row, JobModel::Run);
         dressButtons();
         emit started(tr("Backing up \"%1\"").arg(job.name));
@@ -212,9 +213,10 @@ void JobsPage::removeJob(int row)
         emit message(tr("\"%1\" is running. Cancel it before you remove it.").arg(name));
         return;
     }
-    const QString question = tr("Remove \"%1\" from the list? Its backups stay in the repository.");
-    if (QMessageBox::question(this, window()->windowTitle(), question.arg(name))
-        == QMessageBox::Yes) {
+    // The name may look like HTML.
+    const QString question = Qt::convertFromPlainText(
+        tr("Remove \"%1\" from the list? Its backups stay in the repository.").arg(name));
+    if (QMessageBox::question(this, window()->windowTitle(), question) == QMessageBox::Yes) {
         m_jobs->removeRow(row);
     }
 }
