@@ -39,7 +39,8 @@ QProcessEnvironment Restic::environment(const QString &repository)
     result.insert("RESTIC_REPOSITORY", address(repository));
     result.insert("RESTIC_PROGRESS_FPS", "4");
     // Without a place for its cache, as at the start of a system, restic 0.18 does not work.
-    if (!result.contains("HOME") && !result.contains("RESTIC_CACHE_DIR")) {
+    if (!result.contains("HOME") && !result.contains("LOCALAPPDATA")
+        && !result.contains("RESTIC_CACHE_DIR")) {
         result.insert("RESTIC_CACHE_DIR", QDir::temp().filePath("restic-cache"));
     }
     return result;

@@ -37,6 +37,8 @@ private slots:
     void thePasswordGoesToTheStandardInputOnly();
     void theOutputGoesIntoAFile();
     void aFileThatCannotBeWrittenIsAFailure();
+    void theCacheMovesOnlyWhereThereIsNoPlaceForIt_data();
+    void theCacheMovesOnlyWhereThereIsNoPlaceForIt();
 
 private:
     void fake(const QByteArray &output, const QByteArray &errors = QByteArray(),
@@ -363,6 +365,29 @@ void tst_ResticRun::aFileThatCannotBeWrittenIsAFailure()
     const Outcome outcome = run(&restic, {}, QStringLiteral("/no/such/folder/list"));
     QCOMPARE(outcome.kind, Outcome::Failed);
     QVERIFY2(outcome.text().size() > 20, qPrintable(outcome.text()));
+}
+
+void tst_ResticRun::theCacheMovesOnlyWhereThereIsNoPlaceForIt_data()
+{
+    QTest::addColumn<QByteArray>("place");
+    QTest::addColumn<bool>("moves");
+    QTest::newRow("none") << QByteArray() << true;
+    QTest::newRow("a home") << QByteArray("HOME") << false;
+    QTest::newRow("one on Windows") << QByteArray("LOCALAPPDATA") << false;
+}
+
+void tst_ResticRun::theCacheMovesOnlyWhereThereIsNoPlaceForIt()
+{
+    QFETCH(QByteArray, place);
+    QFETCH(bool, moves);
+    const QByteArray home = qgetenv("HOME");
+    qunsetenv("HOME");
+    qunsetenv("RESTIC_CACHE_DIR");
+    qputenv(place.isEmpty() ? "UNUSED" : place.constData(), "/somewhere");
+    const QProcessEnvironment environment = Restic::environment(QStringLiteral("/repository"));
+    qunsetenv(place.isEmpty() ? "UNUSED" : place.constData());
+    qputenv("HOME", home);
+    QCOMPARE(environment.contains(QStringLiteral("RESTIC_CACHE_DIR")), moves);
 }
 
 QTEST_GUILESS_MAIN(tst_ResticRun)
