@@ -58,12 +58,12 @@ void addOptions(QCommandLineParser *parser)
 
 bool makesSense(const QCommandLineParser &parser)
 {
-    const bool isTask = parser.isSet("run")
-        ? !parser.value("source").isEmpty()
-        : parser.isSet("restore") || parser.isSet("snapshots") || parser.isSet("verify");
-    const bool isLimit = !parser.isSet("limit-upload") || parser.value("limit-upload").toInt() > 0;
     const int folders = parser.isSet("restore") ? 1 : 0;
-    return isTask && isLimit && !parser.value("target").isEmpty()
+    const int others = parser.isSet("run") || parser.isSet("verify") ? 1 : 0;
+    const bool isOneTask = folders + others + int(parser.isSet("snapshots")) == 1;
+    const bool isSource = !parser.isSet("run") || !parser.value("source").isEmpty();
+    const bool isLimit = !parser.isSet("limit-upload") || parser.value("limit-upload").toInt() > 0;
+    return isOneTask && isSource && isLimit && !parser.value("target").isEmpty()
         && parser.positionalArguments().size() == folders;
 }
 
@@ -76,17 +76,23 @@ void clearProgress()
     showsProgress = false;
 }
 
+// A file's name may have in it what a terminal obeys.
+QString harmless(QString text)
+{
+    for (QChar &character : text) {
+        const bool isShown = character.isPrint() || character.isSurrogate() || character == '\n';
+        character = isShown ? character : QLatin1Char('?');
+    }
+    return text;
+}
+
 void showProgress(const QString &text)
 {
     if (!isTerminal(stderr)) {
         return;
     }
     clearProgress();
-    QString line = text.left(width);
-    for (QChar &character : line) {
-        character = character.isPrint() ? character : QLatin1Char('?');
-    }
-    std::fputs(qPrintable(line), stderr);
+    std::fputs(qPrintable(harmless(text.left(width)).replace('\n', '?')), stderr);
     showsProgress = true;
 }
 
@@ -119,7 +125,7 @@ void say(std::FILE *stream, const QString &text)
 {
     clearProgress();
     if (!text.isEmpty()) {
-        std::fprintf(stream, "%s\n", qPrintable(text));
+        std::fprintf(stream, "%s\n", qPrintable(isTerminal(stream) ? harmless(text) : text));
     }
 }
 
@@ -142,9 +148,10 @@ void end(const QCommandLineParser &parser, const Outcome &outcome)
     } else if (!parser.isSet("quiet")) {
         say(stdout, outcome.text());
     }
-    if (outcome.kind == Outcome::NoRepository || outcome.kind == Outcome::Locked) {
-        say(stderr,
-            Console::tr("--init makes a repository, --unlock removes a dead program's lock."));
+    if (outcome.kind == Outcome::NoRepository && parser.isSet("run")) {
+        say(stderr, Console::tr("--init makes a repository."));
+    } else if (outcome.kind == Outcome::Locked) {
+        say(stderr, Console::tr("--unlock removes a dead program's lock."));
     }
     QCoreApplication::exit(outcome.exitStatus());
 }
@@ -173,10 +180,10 @@ int work(const QCommandLineParser &parser)
     job.source = parser.value("source");
     job.repository = parser.value("target");
     job.verify = parser.isSet("verify");
+    job.uploadLimit = parser.value("limit-upload").toInt();
     job.password = readPassword();
     BackupRun run;
     report(&run, parser);
-    run.setUploadLimit(parser.value("limit-upload").toInt());
     ResticRun listing;
     QObject::connect(&listing, &ResticRun::message, listSnapshots);
     QObject::connect(&listing, &ResticRun::finished, [&parser](const Outcome &outcome) {
@@ -187,7 +194,7 @@ int work(const QCommandLineParser &parser)
     } else if (parser.isSet("restore")) {
         run.restore(job, parser.value("restore"), parser.positionalArguments().constFirst());
     } else if (parser.isSet("snapshots")) {
-        listing.start(job.repository, job.password, {"snapshots", "--json"});
+        listing.start(job, {"snapshots", "--json", "--no-lock"});
     } else {
         run.verify(job);
     }
@@ -201,7 +208,7 @@ int Console::run(const QStringList &arguments)
     QCommandLineParser parser;
     addOptions(&parser);
     const bool isUnderstood = parser.parse(arguments);
-    if (parser.isSet("help")) {
+    if (parser.isSet("help") || parser.isSet("help-all")) {
         say(stdout,
             parser.helpText() + '\n'
                 + tr("The password is the first line of the standard input; on a terminal it is "
@@ -220,8 +227,8 @@ int Console::run(const QStringList &arguments)
     } else if (!isUnderstood || !makesSense(parser)) {
         say(stderr, parser.errorText());
         say(stderr,
-            Console::tr("Say --target, and --run with --source, --verify, --snapshots, or "
-                        "--restore with a snapshot and a folder. --help tells more."));
+            tr("Say --target, and --run with --source, --verify, --snapshots, or "
+               "--restore with a snapshot and a folder. --help tells more."));
         return 2;
     } else {
         return work(parser);

@@ -12,16 +12,17 @@
 
 namespace {
 
-QStringList backUpArguments(const BackupJob &job, int kibibytesPerSecond)
+QStringList backUpArguments(const BackupJob &job)
 {
     const QString source = Restic::sourcePath(job.source);
     QStringList result = {"backup", "--json"};
-    if (kibibytesPerSecond > 0) {
-        result += {"--limit-upload", QString::number(kibibytesPerSecond)};
+    if (job.uploadLimit > 0) {
+        result += {"--limit-upload", QString::number(job.uploadLimit)};
     }
-    // A repository inside the source would grow by itself with each run.
+    // Inside the source it would grow by itself with each run; around it, all would be excluded.
     QString repository = Restic::sourcePath(job.repository);
-    if (QFileInfo::exists(repository) && repository != source) {
+    if (repository != source
+        && repository.startsWith(source.endsWith('/') ? source : source + '/')) {
         static const QRegularExpression special("([*?\\[\\\\])");
         result += {"--exclude", repository.replace(special, "\\\\1")};
     }
@@ -56,7 +57,7 @@ BackupRun::BackupRun(QObject *parent)
 // restic would refuse what is refused here, or not in words that help.
 bool BackupRun::backUp(const BackupJob &job)
 {
-    QList<QStringList> steps = {backUpArguments(job, m_uploadLimit)};
+    QList<QStringList> steps = {backUpArguments(job)};
     if (job.verify) {
         steps.append(QStringList{"check", "--read-data"});
     }
@@ -117,7 +118,7 @@ void BackupRun::startStep()
     m_progress.fraction = -1;
     m_progress.activity = activities.value(command(), tr("Preparing"));
     emit progressChanged(m_progress);
-    m_run.start(m_job.repository, m_job.password, m_steps.constFirst());
+    m_run.start(m_job, m_steps.constFirst());
     if (m_isCancelled && command() != "unlock") {
         m_run.cancel();
     }
@@ -158,7 +159,6 @@ void BackupRun::endStep(const Outcome &outcome)
         m_outcome.achieved += tr("Restored below %1.").arg(m_steps.constFirst().at(2));
     } else if (outcome.kind == Outcome::Incomplete) {
         m_outcome.kind = outcome.kind;
-        m_outcome.details = outcome.details;
     } else if (!outcome.isGood() && command() != "unlock" && !isMadeByOther) {
         askOrEnd(outcome);
         return;
@@ -184,15 +184,12 @@ void BackupRun::answer(bool yes)
 {
     const Outcome unanswered = m_unanswered;
     m_unanswered = Outcome();
-    if (unanswered.isGood()) {
-        return;
-    }
-    if (!yes) {
+    if (!yes && !unanswered.isGood()) {
         end(unanswered);
     } else if (unanswered.kind == Outcome::Locked) {
         m_steps.prepend(QStringList("unlock"));
         startStep();
-    } else {
+    } else if (!unanswered.isGood()) {
         create();
     }
 }
@@ -204,7 +201,9 @@ void BackupRun::create()
         = QString("tessaline-%1.lock").arg(qHash(Restic::sourcePath(m_job.repository)));
     m_creation.reset(new QLockFile(QDir::temp().filePath(name)));
     m_creation->setStaleLockTime(0);
-    if (m_isCancelled || m_creation->tryLock(0)) {
+    // Where no lock can be made at all, waiting would not help.
+    if (m_isCancelled || m_creation->tryLock(0)
+        || m_creation->error() != QLockFile::LockFailedError) {
         m_steps.prepend(QStringList("init"));
         startStep();
     } else {

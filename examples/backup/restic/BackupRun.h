@@ -18,7 +18,6 @@ struct BackupProgress
     /// With the current file at its end.
     QString activity;
 
-    /// One line.
     QString text() const;
 };
 
@@ -39,15 +38,15 @@ public:
     {
         return !m_steps.isEmpty();
     }
+    /// Of the backup under way, or the last one.
+    QString source() const
+    {
+        return m_job.source;
+    }
     /// By the backup under way, or the last one.
     qint64 bytesDone() const
     {
         return m_progress.bytesDone;
-    }
-    /// 0 is none. From the next run on.
-    void setUploadLimit(int kibibytesPerSecond)
-    {
-        m_uploadLimit = kibibytesPerSecond;
     }
 
     /// Each returns false, and nothing happens, while a run is under way; else finished() follows.
@@ -90,7 +89,6 @@ private:
     /// Held while the repository is made.
     std::unique_ptr<QLockFile> m_creation;
     bool m_isCancelled = false;
-    int m_uploadLimit = 0;
     BackupProgress m_progress;
     Outcome m_outcome;
 };

@@ -9,7 +9,6 @@
 struct BackupJob
 {
     QString name;
-    /// A folder.
     QString source;
     /// A folder or any address that restic takes, such as "sftp:host:/path".
     QString repository;
@@ -17,6 +16,8 @@ struct BackupJob
     QString password;
     /// Whether a backup is followed by reading everything back.
     bool verify = false;
+    /// In KB a second, for one run: not stored. 0 is none.
+    int uploadLimit = 0;
 };
 
 /// Keeps the jobs, without their passwords, in an INI file: an array [jobs]. The file may also have

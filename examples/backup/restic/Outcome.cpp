@@ -25,7 +25,7 @@ const Ending endings[] = {
     {Outcome::Incomplete, 3, 3, "at least one source file could not be read",
      QT_TRANSLATE_NOOP("Outcome", "Some files could not be read; all others are backed up.")},
     {Outcome::Cancelled, 1, -1, nullptr,
-     QT_TRANSLATE_NOOP("Outcome", "Cancelled. What was stored so far is used by the next run.")},
+     QT_TRANSLATE_NOOP("Outcome", "Cancelled. The next backup uses what was stored so far.")},
     {Outcome::Missing, 2, -1, nullptr,
      QT_TRANSLATE_NOOP("Outcome",
                        "There is no restic. Install the package \"restic\", or say where the "
@@ -49,19 +49,19 @@ const Ending endings[] = {
                        "lock that one left behind; else run this again later.")},
     {Outcome::NoSpace, 1, -1, "no space left|not enough space|quota exceeded",
      QT_TRANSLATE_NOOP("Outcome",
-                       "There is no space left for the repository. Make room, then run this "
-                       "again: earlier snapshots are whole.")},
+                       "There is no space left. Make room, then run this again: earlier snapshots "
+                       "are whole.")},
     {Outcome::NoSource, 2, -1, "directories/files do not exist",
      QT_TRANSLATE_NOOP("Outcome", "The source is not there. Is its disk connected?")},
     {Outcome::NotEmpty, 2, -1, nullptr,
      QT_TRANSLATE_NOOP("Outcome",
                        "The folder to restore into is not empty, so nothing was restored. "
                        "Choose an empty or a new one.")},
-    {Outcome::Damaged, 4, -1, "repository contains errors",
+    {Outcome::Damaged, 4, -1, "repository contains errors|LoadIndex returned errors",
      QT_TRANSLATE_NOOP("Outcome",
-                       "The repository is damaged. Save what its disk still gives, and see "
-                       "\"restic repair\" in restic's manual.")},
-    {Outcome::Crashed, 1, -1, nullptr,
+                       "The repository is damaged. Save what its disk still gives, and see in "
+                       "restic's manual how to repair it.")},
+    {Outcome::Crashed, 1, 2, nullptr, // as programs in Go end when they fail by themselves
      QT_TRANSLATE_NOOP("Outcome",
                        "restic ended before it was done. Earlier snapshots are whole; run this "
                        "again.")},

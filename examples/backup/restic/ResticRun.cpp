@@ -39,10 +39,19 @@ QProcessEnvironment Restic::environment(const QString &repository)
     result.insert("RESTIC_REPOSITORY", address(repository));
     result.insert("RESTIC_PROGRESS_FPS", "4");
     // Without a place for its cache, as at the start of a system, restic 0.18 does not work.
-    if (!result.contains("HOME") && !result.contains("RESTIC_CACHE_DIR")) {
+    if (!result.contains("HOME") && !result.contains("LOCALAPPDATA")
+        && !result.contains("RESTIC_CACHE_DIR")) {
         result.insert("RESTIC_CACHE_DIR", QDir::temp().filePath("restic-cache"));
     }
     return result;
+}
+
+QJsonDocument Restic::messageIn(const QByteArray &line, int *skippedLines)
+{
+    QJsonDocument message = QJsonDocument::fromJson(line);
+    const bool isOther = line.trimmed().isEmpty() || line.startsWith("reading repository password");
+    *skippedLines += message.isNull() && !isOther ? 1 : 0;
+    return message;
 }
 
 QString Restic::sourcePath(const QString &typed)
@@ -65,14 +74,12 @@ ResticRun::~ResticRun()
     }
 }
 
-void ResticRun::start(const QString &repository, const QString &password,
-                      const QStringList &arguments, const QString &outputFile)
+void ResticRun::start(const BackupJob &job, const QStringList &arguments, const QString &outputFile)
 {
-    m_repository = repository;
-    m_password = password;
+    m_job = job;
     m_arguments = arguments;
     m_outputFile = outputFile;
-    m_skippedLines = 0;
+    m_outcome = Outcome();
     m_isCancelled = false;
     m_asksVersion = true;
     QTimer::singleShot(0, this, &ResticRun::launch);
@@ -96,70 +103,73 @@ void ResticRun::launch()
     }
     m_lastErrors.clear();
     m_process = new QProcess(this);
-    m_process->setProcessEnvironment(Restic::environment(m_repository));
+    m_process->setProcessEnvironment(Restic::environment(m_job.repository));
     m_process->setStandardOutputFile(m_asksVersion ? QString() : m_outputFile);
-    connect(m_process, &QProcess::readyReadStandardOutput, this, [this] {
-        readChannel(QProcess::StandardOutput);
-    });
-    connect(m_process, &QProcess::readyReadStandardError, this, [this] {
-        readChannel(QProcess::StandardError);
-    });
-    // Comes whether it ran or not, maybe from within start().
+    connect(m_process, &QProcess::readyReadStandardOutput, this, &ResticRun::read);
+    connect(m_process, &QProcess::readyReadStandardError, this, &ResticRun::read);
+    const QSettings settings(JobStore::defaultFilePath(), QSettings::IniFormat);
+    m_process->start(settings.value("restic", "restic").toString(),
+                     m_asksVersion ? QStringList("version") : m_arguments);
+    // After start(), which fails without a change of state if the program has no name.
     connect(m_process, &QProcess::stateChanged, this, [this](QProcess::ProcessState state) {
         if (state == QProcess::NotRunning) {
             QTimer::singleShot(0, this, &ResticRun::end);
         }
     });
-    const QSettings settings(JobStore::defaultFilePath(), QSettings::IniFormat);
-    m_process->start(settings.value("restic", "restic").toString(),
-                     m_asksVersion ? QStringList("version") : m_arguments);
-    if (!m_asksVersion && m_process->state() != QProcess::NotRunning) {
-        m_process->write(m_password.toUtf8() + '\n');
+    if (m_process->state() == QProcess::NotRunning) {
+        QTimer::singleShot(0, this, &ResticRun::end);
+    } else if (!m_asksVersion) {
+        m_process->write(m_job.password.toUtf8() + '\n');
     }
     m_process->closeWriteChannel();
 }
 
-void ResticRun::readChannel(QProcess::ProcessChannel channel)
+void ResticRun::read()
 {
-    m_process->setReadChannel(channel);
     const bool isAtEnd = m_process->state() == QProcess::NotRunning;
-    while (m_process->canReadLine() || (isAtEnd && m_process->bytesAvailable() > 0)
-           || m_process->bytesAvailable() > longestLine) {
-        const QByteArray line = m_process->readLine(longestLine).trimmed();
-        channel == QProcess::StandardOutput ? readLine(line) : readErrorLine(line);
+    for (QProcess::ProcessChannel channel : {QProcess::StandardOutput, QProcess::StandardError}) {
+        m_process->setReadChannel(channel);
+        while (m_process->canReadLine() || (isAtEnd && m_process->bytesAvailable() > 0)
+               || m_process->bytesAvailable() > longestLine) {
+            const QByteArray line = m_process->readLine(longestLine).trimmed();
+            channel == QProcess::StandardOutput ? readLine(line) : readErrorLine(line);
+        }
     }
 }
 
 void ResticRun::readLine(const QByteArray &line)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(line);
     if (m_asksVersion) {
         m_lastErrors.append(QString::fromUtf8(line));
-    } else if (!document.isNull()) {
-        emit message(document);
-    } else if (m_arguments.contains("--json") && !line.isEmpty()
-               && !line.startsWith("reading repository password")) {
-        ++m_skippedLines;
+    } else if (m_arguments.contains("--json")) {
+        const QJsonDocument document = Restic::messageIn(line, &m_outcome.skippedLines);
+        if (!document.isNull()) {
+            emit message(document);
+        }
     }
 }
 
 void ResticRun::readErrorLine(const QByteArray &line)
 {
     const QJsonObject message = QJsonDocument::fromJson(line).object();
-    QString text = message.value("message").toString(QString::fromUtf8(line));
     if (message.contains("error")) {
         // Versions before 0.16 say why in numbers of the system.
         const QJsonValue reason = message.value("error").toObject().value("message");
-        text = message.value("item").toString() + ": " + reason.toString(tr("cannot be read"));
-        emit problemFound(text);
+        emit problemFound(message.value("item").toString() + ": "
+                          + reason.toString(tr("cannot be read")));
+        return;
     }
+    const QString text = message.value("message").toString(QString::fromUtf8(line));
     m_lastErrors = (m_lastErrors << text).mid(m_lastErrors.size() - 20);
 }
 
 void ResticRun::end()
 {
-    readChannel(QProcess::StandardOutput);
-    readChannel(QProcess::StandardError);
+    read();
+    // The version was asked for, so restic itself is there.
+    if (!m_asksVersion && m_process->error() == QProcess::FailedToStart) {
+        m_lastErrors.append(m_process->errorString());
+    }
     const Outcome::Kind kind = kindOfEnd();
     m_process->deleteLater();
     m_process = nullptr;
@@ -172,7 +182,7 @@ Outcome::Kind ResticRun::kindOfEnd() const
 {
     const QString errors = m_lastErrors.join(QLatin1Char('\n'));
     if (m_process->error() == QProcess::FailedToStart) {
-        return Outcome::Missing;
+        return m_asksVersion ? Outcome::Missing : Outcome::Failed;
     }
     if (m_process->exitStatus() == QProcess::CrashExit) {
         return m_isCancelled ? Outcome::Cancelled : Outcome::Crashed;
@@ -180,16 +190,17 @@ Outcome::Kind ResticRun::kindOfEnd() const
     if (m_asksVersion) {
         return Restic::isNewEnough(errors) ? Outcome::Done : Outcome::TooOld;
     }
-    const Outcome::Kind kind = Outcome::kindOf(m_process->exitCode(), errors);
+    // Some versions, 0.14 and 0.19 among them, end with 0 though what they list was cut off.
+    const bool isCutOff = !m_outputFile.isEmpty() && m_process->exitCode() == 0
+        && (errors.contains("JSON encode failed") || errors.contains("write failed"));
+    const Outcome::Kind kind = Outcome::kindOf(isCutOff ? 1 : m_process->exitCode(), errors);
     return m_isCancelled && kind != Outcome::Done ? Outcome::Cancelled : kind;
 }
 
 void ResticRun::finish(Outcome::Kind kind)
 {
-    Outcome outcome;
-    outcome.kind = kind;
-    outcome.details = m_lastErrors.join(QLatin1Char('\n'));
-    outcome.skippedLines = m_skippedLines;
-    m_password.clear();
-    emit finished(outcome);
+    m_outcome.kind = kind;
+    m_outcome.details = m_lastErrors.join(QLatin1Char('\n'));
+    m_job.password.clear();
+    emit finished(m_outcome);
 }

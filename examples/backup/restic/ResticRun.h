@@ -15,6 +15,8 @@ namespace Restic {
 
 /// Of what "restic version" prints. Older ones call a restore done that has left files out.
 bool isNewEnough(const QString &version);
+/// Null if there is none; a line that makes no sense is counted.
+QJsonDocument messageIn(const QByteArray &line, int *skippedLines);
 /// This process's environment, without what would beat the password from the standard input.
 QProcessEnvironment environment(const QString &repository);
 /// An absolute path without links, which restic would store in place of what they lead to.
@@ -35,7 +37,7 @@ public:
 
     /// finished() always follows, never from within this call. Not while a run is under way. With
     /// an output file the standard output goes there.
-    void start(const QString &repository, const QString &password, const QStringList &arguments,
+    void start(const BackupJob &job, const QStringList &arguments,
                const QString &outputFile = QString());
 
 public slots:
@@ -51,7 +53,7 @@ signals:
 
 private:
     void launch();
-    void readChannel(QProcess::ProcessChannel channel);
+    void read();
     void readLine(const QByteArray &line);
     void readErrorLine(const QByteArray &line);
     void end();
@@ -59,12 +61,11 @@ private:
     void finish(Outcome::Kind kind);
 
     QProcess *m_process = nullptr;
-    QString m_repository;
-    QString m_password;
+    BackupJob m_job;
     QStringList m_arguments;
     QString m_outputFile;
     QStringList m_lastErrors;
-    int m_skippedLines = 0;
+    Outcome m_outcome;
     bool m_asksVersion = false;
     bool m_isCancelled = false;
 };

@@ -2,7 +2,6 @@
 #include "SnapshotListing.h"
 
 #include <QJsonArray>
-#include <QJsonObject>
 
 namespace {
 
@@ -22,7 +21,7 @@ QDateTime timeOf(const QJsonObject &object, const char *key)
 
 } // namespace
 
-QList<Snapshot> Snapshot::allIn(const QJsonDocument &message)
+QList<Snapshot> Snapshot::allIn(const QJsonDocument &message, const QString &path)
 {
     QList<Snapshot> snapshots;
     const QJsonArray array = message.array();
@@ -33,16 +32,15 @@ QList<Snapshot> Snapshot::allIn(const QJsonDocument &message)
         snapshot.time = timeOf(object, "time");
         snapshot.host = textOf(object, "hostname");
         snapshot.paths = object.value("paths").toVariant().toStringList();
-        if (!snapshot.id.isEmpty()) {
+        if (!snapshot.id.isEmpty() && (path.isEmpty() || snapshot.paths.contains(path))) {
             snapshots.append(snapshot);
         }
     }
     return snapshots;
 }
 
-bool SnapshotFile::read(const QByteArray &line, SnapshotFile *file)
+bool SnapshotFile::read(const QJsonObject &object, SnapshotFile *file)
 {
-    const QJsonObject object = QJsonDocument::fromJson(line).object();
     file->path = textOf(object, "path");
     file->type = textOf(object, "type");
     file->permissions = static_cast<qint64>(object.value("mode").toDouble()) & 0777;
@@ -61,20 +59,21 @@ SnapshotListing::SnapshotListing(QObject *parent)
 
 void SnapshotListing::open(const BackupJob &job, const QString &snapshot)
 {
-    m_timer.stop();
     m_run.reset(new ResticRun);
     m_file.close();
     m_file.remove();
     m_unfinishedLine.clear();
     m_files.clear();
-    m_pageSize = 0;
-    m_isWritten = false;
+    m_outcome = Outcome();
+    m_isWritten = snapshot.isEmpty();
     connect(m_run.get(), &ResticRun::finished, this, [this](const Outcome &outcome) {
-        m_outcome = outcome;
+        m_outcome.kind = outcome.kind;
+        m_outcome.details = outcome.details;
         m_isWritten = true;
     });
-    m_run->start(job.repository, job.password, {"ls", "--json", "--no-lock", "--", snapshot},
-                 m_file.fileName());
+    if (!snapshot.isEmpty()) {
+        m_run->start(job, {"ls", "--json", "--no-lock", "--", snapshot}, m_file.fileName());
+    }
 }
 
 void SnapshotListing::requestPage(int count)
@@ -90,20 +89,24 @@ void SnapshotListing::readOn()
     for (int line = 0; line < linesAtOnce && !isAtEnd && m_files.size() <= m_pageSize; ++line) {
         m_unfinishedLine += m_file.readLine();
         isAtEnd = !m_unfinishedLine.endsWith('\n');
-        SnapshotFile file;
-        if (!isAtEnd && SnapshotFile::read(m_unfinishedLine, &file)) {
-            m_files.append(file);
+        if (!isAtEnd || wasWritten) {
+            SnapshotFile file;
+            const QJsonDocument node = Restic::messageIn(m_unfinishedLine, &m_outcome.skippedLines);
+            if (SnapshotFile::read(node.object(), &file)) {
+                m_files.append(file);
+            }
+            m_unfinishedLine.clear();
         }
-        m_unfinishedLine = isAtEnd ? m_unfinishedLine : QByteArray();
     }
     const bool isLast = m_files.size() <= m_pageSize;
     if (isLast && !(wasWritten && isAtEnd)) {
         m_timer.start(isAtEnd ? 50 : 0); // the end, for now
-    } else if (isLast && !m_outcome.isGood()) {
+        return;
+    }
+    const QList<SnapshotFile> page = m_files.mid(0, m_pageSize);
+    m_files = m_files.mid(m_pageSize);
+    emit pageRead(page, isLast);
+    if (isLast && !m_outcome.text().isEmpty()) {
         emit failed(m_outcome);
-    } else {
-        const QList<SnapshotFile> page = m_files.mid(0, m_pageSize);
-        m_files = m_files.mid(m_pageSize);
-        emit pageRead(page, isLast);
     }
 }

@@ -7,6 +7,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -20,8 +21,8 @@ struct Snapshot
     QString host;
     QStringList paths;
 
-    /// From the message of "snapshots --json", oldest first; what is none is left out.
-    static QList<Snapshot> allIn(const QJsonDocument &message);
+    /// From the message of "snapshots --json", oldest first; of one path only, if it is not empty.
+    static QList<Snapshot> allIn(const QJsonDocument &message, const QString &path = QString());
 };
 
 /// A file, folder or link in a snapshot.
@@ -35,8 +36,8 @@ struct SnapshotFile
     qint64 size = 0;
     QDateTime modified;
 
-    /// From a line of "ls --json"; false if it tells of no file.
-    static bool read(const QByteArray &line, SnapshotFile *file);
+    /// From a message of "ls --json"; false if it tells of no file.
+    static bool read(const QJsonObject &object, SnapshotFile *file);
 };
 
 /// The files of a snapshot, page by page. restic writes all of them into a temporary file, at its
@@ -48,14 +49,15 @@ class SnapshotListing : public QObject
 public:
     explicit SnapshotListing(QObject *parent = nullptr);
 
-    /// Starts over, with this snapshot. A page that was asked for before does not come any more.
+    /// Starts over: a page asked for before is of this snapshot. There are no files without an id.
     void open(const BackupJob &job, const QString &snapshot);
-    /// pageRead() follows, or failed(); never from within this call.
+    /// pageRead() follows, never from within this call.
     void requestPage(int count);
 
 signals:
     /// As many files as were asked for; fewer if they are the last ones.
     void pageRead(const QList<SnapshotFile> &files, bool completed);
+    /// After the last page: files are missing, or may be.
     void failed(const Outcome &outcome);
 
 private:
@@ -69,7 +71,7 @@ private:
     /// The page, and one file more, which tells whether there is another page.
     QList<SnapshotFile> m_files;
     int m_pageSize = 0;
-    bool m_isWritten = false;
+    bool m_isWritten = true;
     Outcome m_outcome;
 };
 

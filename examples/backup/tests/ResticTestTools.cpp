@@ -216,6 +216,21 @@ bool Sandbox::isLocked() const
     return !QDir(job.repository + QStringLiteral("/locks")).entryList(names).isEmpty();
 }
 
+void Sandbox::leaveExclusiveLock() const
+{
+    fillSource(40, 1000000);
+    backUp();
+    QProcess check;
+    check.setProcessEnvironment(Restic::environment(job.repository));
+    check.start(realRestic(), {QStringLiteral("check"), QStringLiteral("--read-data")});
+    check.write(job.password.toUtf8() + '\n');
+    check.closeWriteChannel();
+    QTRY_VERIFY_WITH_TIMEOUT(isLocked(), 30000);
+    check.kill();
+    check.waitForFinished();
+    QVERIFY(isLocked());
+}
+
 void Sandbox::useProgram(const QString &program) const
 {
     QSettings(JobStore::defaultFilePath(), QSettings::IniFormat)
@@ -296,21 +311,21 @@ void writeFile(const QByteArray &path, const QByteArray &content)
     QCOMPARE(file.write(content), qint64(content.size()));
 }
 
-void damage(const QByteArray &repository)
+void damage(const QByteArray &repository, const QByteArray &kind)
 {
     QFileInfo largest;
-    QDirIterator packs(text(repository + "/data"), QDir::Files, QDirIterator::Subdirectories);
-    while (packs.hasNext()) {
-        packs.next();
-        largest = packs.fileInfo().size() > largest.size() ? packs.fileInfo() : largest;
+    QDirIterator files(text(repository + '/' + kind), QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        files.next();
+        largest = files.fileInfo().size() > largest.size() ? files.fileInfo() : largest;
     }
-    QFile pack(largest.filePath());
-    QVERIFY(pack.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
-    QVERIFY(pack.open(QIODevice::ReadWrite));
+    QFile file(largest.filePath());
+    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(file.open(QIODevice::ReadWrite));
     char byte = 0;
-    const qint64 middle = pack.size() / 2;
-    QVERIFY(pack.seek(middle) && pack.getChar(&byte) && pack.seek(middle));
-    QVERIFY(pack.putChar(char(byte ^ 1)));
+    const qint64 middle = file.size() / 2;
+    QVERIFY(file.seek(middle) && file.getChar(&byte) && file.seek(middle));
+    QVERIFY(file.putChar(char(byte ^ 1)));
 }
 
 void makeOddTree(const QByteArray &folder)

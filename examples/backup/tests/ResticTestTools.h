@@ -48,6 +48,8 @@ public:
     int snapshotCount() const;
     /// Whether there is a lock in its place; restic writes it under another name first.
     bool isLocked() const;
+    /// As a verification that was killed does, on more data than is verified in a moment.
+    void leaveExclusiveLock() const;
     /// Makes this the program that is run instead of restic.
     void useProgram(const QString &program) const;
 
@@ -68,8 +70,8 @@ QString fakeRestic();
 QByteArray allProcesses();
 QByteArray readFile(const QByteArray &path);
 void writeFile(const QByteArray &path, const QByteArray &content);
-/// Flips a byte in the middle of the largest pack.
-void damage(const QByteArray &repository);
+/// Flips a byte in the middle of the largest file of a kind: "data" for packs, "index".
+void damage(const QByteArray &repository, const QByteArray &kind = "data");
 /// Makes files, folders and links with names, modes and times of every kind.
 void makeOddTree(const QByteArray &folder);
 /// What there is below a folder: names, types, modes, times, link targets, contents.

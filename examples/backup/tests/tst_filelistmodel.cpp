@@ -7,6 +7,8 @@
 
 #include <QAbstractItemModelTester>
 #include <QPushButton>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QtTest>
 
 namespace {
@@ -114,6 +116,7 @@ private slots:
     void answersWithTheNewSnapshotWhenItChangesWhileLoading();
     void showsSizesInTheUnitsOfTheChart();
     void showsRightsAsNumbers();
+    void showsNamesAsTheyAreInToolTips();
     void holdsOnlyThePagesAskedFor();
 };
 
@@ -123,7 +126,7 @@ void tst_FileListModel::isEmptyWithoutASnapshot()
 
     listing.model.setSnapshot(listing.sandbox.job, QString());
 
-    QCOMPARE(listing.model.rowCount(), 0);
+    QTRY_COMPARE(listing.model.rowCount(), 0);
 }
 
 void tst_FileListModel::deliversPagesInOneInsertionEach()
@@ -273,6 +276,19 @@ void tst_FileListModel::showsRightsAsNumbers()
     listing.openAll();
 
     QCOMPARE(listing.column(FileListModel::Rights), QStringLiteral("644"));
+}
+
+void tst_FileListModel::showsNamesAsTheyAreInToolTips()
+{
+    Listing listing;
+    listing.write(line("/x/<b>a</b> &amp; b", 3, "2026-11-21T10:00:00Z"));
+
+    listing.openAll();
+
+    const QModelIndex name = listing.model.index(0, FileListModel::Name);
+    const QString tip = name.data(Qt::ToolTipRole).toString();
+    QVERIFY(Qt::mightBeRichText(tip));
+    QCOMPARE(QTextDocumentFragment::fromHtml(tip).toPlainText(), name.data().toString());
 }
 
 void tst_FileListModel::holdsOnlyThePagesAskedFor()

@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QStatusBar>
 #include <QtTest>
 
@@ -49,12 +51,17 @@ private slots:
     void listsTheFilesOfTheNewestSnapshot();
     void listsTheFilesOfTheChosenSnapshot();
     void offersTheSnapshotsOfTheJobOnly();
+    void offersTheSnapshotsOfALostSourceBehindALink();
+    void offersTheSnapshotsOfTheJobOnlyWhenItsSourceIsLost();
     void looksAgainAfterABackup();
+    void keepsTheChosenSnapshotWhenAnotherJobIsBackedUp();
     void asksForAMissingPassword();
     void tellsAWrongPassword();
     void asksAgainAfterAWrongPassword();
     void listsNothingForAJobWithoutRepository();
     void restoresTheChosenSnapshot();
+    void restoresTheSnapshotChosenBeforeAskingForAFolder();
+    void namesTheRepositoryAsItIs();
     void restoresNothingIntoAFolderInUse();
     void takesThePageSizeFromItsBox();
     void hintsAtThePageSize();
@@ -104,6 +111,36 @@ void tst_FilesPage::offersTheSnapshotsOfTheJobOnly()
     QVERIFY(snapshots(window)->currentText().endsWith(QStringLiteral("letters")));
 }
 
+void tst_FilesPage::offersTheSnapshotsOfALostSourceBehindALink()
+{
+    NEEDS_RESTIC()
+    const Window window;
+    const QString link = window.path(QStringLiteral("link"));
+    QVERIFY(QFile::link(window.path(QStringLiteral("letters")), link));
+    window.jobs()->item(0, JobModel::Source)->setText(link);
+    window.backUp(0);
+    QVERIFY(QDir(window.path(QStringLiteral("letters"))).removeRecursively());
+
+    window.showPage(filesPage);
+
+    QTRY_VERIFY_WITH_TIMEOUT(window.listedNames().contains(QStringLiteral("c")), 60000);
+}
+
+void tst_FilesPage::offersTheSnapshotsOfTheJobOnlyWhenItsSourceIsLost()
+{
+    NEEDS_RESTIC()
+    const Window window;
+    window.backUp(0);
+    window.backUp(1);
+    QVERIFY(QDir(window.path(QStringLiteral("letters"))).removeRecursively());
+    window.table()->setCurrentIndex(window.jobs()->index(0, JobModel::Name));
+
+    window.showPage(filesPage);
+
+    QTRY_VERIFY_WITH_TIMEOUT(window.listedNames().contains(QStringLiteral("c")), 60000);
+    QCOMPARE(snapshots(window)->count(), 1);
+}
+
 void tst_FilesPage::looksAgainAfterABackup()
 {
     NEEDS_RESTIC()
@@ -115,6 +152,26 @@ void tst_FilesPage::looksAgainAfterABackup()
     window.run()->backUp(window.jobs()->job(0));
 
     QTRY_COMPARE_WITH_TIMEOUT(snapshots(window)->count(), 2, 60000);
+}
+
+void tst_FilesPage::keepsTheChosenSnapshotWhenAnotherJobIsBackedUp()
+{
+    NEEDS_RESTIC()
+    const Window window;
+    window.backUp(0);
+    window.backUp(0);
+    window.showPage(filesPage);
+    QTRY_COMPARE_WITH_TIMEOUT(snapshots(window)->count(), 2, 60000);
+    QTest::keyClick(snapshots(window), Qt::Key_Down);
+    QSignalSpy finished(window.run(), &BackupRun::finished);
+    BackupJob other = window.jobs()->job(1);
+    other.password = QStringLiteral("secret");
+
+    window.run()->backUp(other);
+
+    QTRY_COMPARE_WITH_TIMEOUT(int(finished.count()), 1, 60000);
+    QCOMPARE(snapshots(window)->count(), 2);
+    QCOMPARE(snapshots(window)->currentIndex(), 1);
 }
 
 void tst_FilesPage::asksForAMissingPassword()
@@ -146,7 +203,7 @@ void tst_FilesPage::tellsAWrongPassword()
     window.showPage(filesPage);
 
     QTRY_VERIFY_WITH_TIMEOUT(window.shows(QStringLiteral("not the repository's password")), 60000);
-    QCOMPARE(window.listedNames(), QStringList());
+    QTRY_COMPARE(window.listedNames(), QStringList());
     QVERIFY(!pushButton(window, QStringLiteral("&Restore..."))->isEnabled());
 }
 
@@ -173,7 +230,7 @@ void tst_FilesPage::listsNothingForAJobWithoutRepository()
     window.showPage(filesPage);
 
     QVERIFY(window.shows(QStringLiteral("no repository")));
-    QCOMPARE(window.listedNames(), QStringList());
+    QTRY_COMPARE(window.listedNames(), QStringList());
 }
 
 void tst_FilesPage::restoresTheChosenSnapshot()
@@ -195,6 +252,48 @@ void tst_FilesPage::restoresTheChosenSnapshot()
     QTRY_VERIFY_WITH_TIMEOUT(window.shows(QStringLiteral("Restored below ") + folder), 60000);
     QCOMPARE(contentBelow(folder, QStringLiteral("a")), QByteArray("first"));
     QCOMPARE(contentBelow(folder, QStringLiteral("c")), QByteArray("second"));
+}
+
+// The list starts over when a backup ends, and that may be while the dialog is open.
+void tst_FilesPage::restoresTheSnapshotChosenBeforeAskingForAFolder()
+{
+    NEEDS_RESTIC()
+    const Window window;
+    window.backUp(0);
+    window.write(QStringLiteral("letters/a"), "changed");
+    window.backUp(0);
+    window.showPage(filesPage);
+    QTRY_COMPARE_WITH_TIMEOUT(snapshots(window)->count(), 2, 60000);
+    QTest::keyClick(snapshots(window), Qt::Key_Down);
+    const QString folder = window.path(QStringLiteral("restored"));
+    QDir().mkpath(folder);
+    inNext<QFileDialog>([&window, folder](QFileDialog *) {
+        window.run()->backUp(window.jobs()->job(0));
+        QTRY_COMPARE_WITH_TIMEOUT(snapshots(window)->count(), 3, 60000);
+        chooseInNextDialog(folder);
+    });
+
+    QTest::mouseClick(pushButton(window, QStringLiteral("&Restore...")), Qt::LeftButton);
+
+    QTRY_VERIFY_WITH_TIMEOUT(window.shows(QStringLiteral("Restored below ") + folder), 60000);
+    QCOMPARE(contentBelow(folder, QStringLiteral("a")), QByteArray("first"));
+}
+
+void tst_FilesPage::namesTheRepositoryAsItIs()
+{
+    const Window window;
+    window.jobs()->item(0, JobModel::Repository)->setText(QStringLiteral("/media/R&D"));
+    window.showPage(filesPage);
+    QString label;
+    inNext<QInputDialog>([&label](QInputDialog *dialog) {
+        label = dialog->labelText();
+        dialog->reject();
+    });
+
+    QTest::mouseClick(pushButton(window, QStringLiteral("&Show snapshots")), Qt::LeftButton);
+
+    // One ampersand would be the mark of a shortcut.
+    QVERIFY2(label.contains(QStringLiteral("/media/R&&D:")), qPrintable(label));
 }
 
 void tst_FilesPage::restoresNothingIntoAFolderInUse()

@@ -19,6 +19,7 @@ private slots:
     void theNextRunSucceedsAfterAKill_data();
     void theNextRunSucceedsAfterAKill();
     void anInterruptedClientEndsWithRestic();
+    void aResticThatCrashesLeavesNoLock();
 
 private:
     QStringList arguments() const;
@@ -105,6 +106,20 @@ void tst_Interruptions::anInterruptedClientEndsWithRestic()
     QTRY_VERIFY_WITH_TIMEOUT(::kill(pid_t(restic), 0) != 0, 20000);
     Client next(*m_sandbox);
     QCOMPARE(next.run(arguments()), 0);
+}
+
+// A crash of its own ends it with a status; SIGQUIT makes it do what it does then.
+void tst_Interruptions::aResticThatCrashesLeavesNoLock()
+{
+    m_sandbox->fillSource(10, 310000);
+    Client client(*m_sandbox);
+    client.start(
+        backUpArguments(*m_sandbox, {QStringLiteral("--limit-upload"), QStringLiteral("100")}));
+    QTRY_VERIFY_WITH_TIMEOUT(m_sandbox->isLocked(), 30000);
+    ::kill(pid_t(client.restic()), SIGQUIT);
+    QCOMPARE(client.wait(), 1);
+    QVERIFY2(client.errors.contains("run this again"), client.errors.constData());
+    QVERIFY(!m_sandbox->isLocked());
 }
 
 QTEST_GUILESS_MAIN(tst_Interruptions)

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QStatusBar>
+#include <QTextDocumentFragment>
 #include <QtTest>
 
 class tst_JobsPage : public QObject
@@ -26,6 +27,8 @@ private slots:
     void keepsAJobThatRuns();
     void removesAJobIfTheUserAgrees_data();
     void removesAJobIfTheUserAgrees();
+    void asksForARemovalByTheNameAsItIs();
+    void namesTheRepositoryAsItIs();
     void addsAJobAndOpensItsName();
     void saysHowToBegin();
     void takesAChoiceAtOnce();
@@ -199,6 +202,37 @@ void tst_JobsPage::removesAJobIfTheUserAgrees()
     window.click(0, JobModel::Remove);
 
     QTEST(window.jobs()->rowCount(), "jobs");
+}
+
+void tst_JobsPage::asksForARemovalByTheNameAsItIs()
+{
+    const Window window;
+    window.jobs()->item(0, JobModel::Name)->setText(QStringLiteral("<b>a</b> & b"));
+    QString question;
+    inNext<QMessageBox>([&question](QMessageBox *box) {
+        question = QTextDocumentFragment::fromHtml(box->text()).toPlainText();
+        box->reject();
+    });
+
+    window.click(0, JobModel::Remove);
+
+    QVERIFY2(question.contains(QStringLiteral("\"<b>a</b> & b\"")), qPrintable(question));
+}
+
+void tst_JobsPage::namesTheRepositoryAsItIs()
+{
+    const Window window;
+    window.jobs()->item(0, JobModel::Repository)->setText(QStringLiteral("/media/R&D"));
+    QString label;
+    inNext<QInputDialog>([&label](QInputDialog *dialog) {
+        label = dialog->labelText();
+        dialog->reject();
+    });
+
+    window.click(0, JobModel::Run);
+
+    // One ampersand would be the mark of a shortcut.
+    QVERIFY2(label.contains(QStringLiteral("/media/R&&D:")), qPrintable(label));
 }
 
 void tst_JobsPage::addsAJobAndOpensItsName()

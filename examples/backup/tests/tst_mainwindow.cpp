@@ -21,6 +21,7 @@ private slots:
     void closesAtOnceWhenNothingRuns();
     void goesOnRunningWhenClosingIsDeclined();
     void cancelsTheRunAndClosesIfTheUserAgrees();
+    void leavesItToTheUserWhetherALockIsStale();
     void storesAnEditedName();
     void hintsAtTheBandwidthLimit();
     void showsTheThroughput();
@@ -70,6 +71,21 @@ void tst_MainWindow::cancelsTheRunAndClosesIfTheUserAgrees()
 
     QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), 60000);
     QVERIFY(!window.run()->isRunning());
+}
+
+void tst_MainWindow::leavesItToTheUserWhetherALockIsStale()
+{
+    const Window window;
+    QString question;
+    inNext<QMessageBox>([&question](QMessageBox *box) {
+        question = box->text();
+        box->reject();
+    });
+
+    emit window.run()->asked(BackupRun::RemoveStaleLock);
+
+    QTRY_VERIFY(!question.isEmpty());
+    QVERIFY2(question.contains(QStringLiteral(" if ")), qPrintable(question));
 }
 
 void tst_MainWindow::storesAnEditedName()

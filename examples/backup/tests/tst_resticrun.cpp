@@ -22,11 +22,13 @@ private slots:
     void whatIsNoMessageIsSkippedAndCounted();
     void unknownMessagesAreIgnored();
     void aLineThatNeverEndsDoesNotFillTheMemory();
+    void problemsAreTold();
     void manyErrorsAreNotAllKept();
     void otherVersionsAreRefusedOrTaken_data();
     void otherVersionsAreRefusedOrTaken();
     void aProgramThatIsReplacedIsLookedAtAgain();
     void aCrashIsTold();
+    void aProgramThatDoesNotStartIsMissing_data();
     void aProgramThatDoesNotStartIsMissing();
     void cancellingEndsIt_data();
     void cancellingEndsIt();
@@ -34,11 +36,15 @@ private slots:
     void exitStatusAndWordsAreUnderstood();
     void thePasswordGoesToTheStandardInputOnly();
     void theOutputGoesIntoAFile();
+    void aFileThatCannotBeWrittenIsAFailure();
+    void theCacheMovesOnlyWhereThereIsNoPlaceForIt_data();
+    void theCacheMovesOnlyWhereThereIsNoPlaceForIt();
 
 private:
     void fake(const QByteArray &output, const QByteArray &errors = QByteArray(),
               const QByteArray &status = "0") const;
-    Outcome run(ResticRun *run, const QStringList &arguments = {QStringLiteral("--json")}) const;
+    Outcome run(ResticRun *run, const QStringList &arguments = {QStringLiteral("--json")},
+                const QString &outputFile = QString()) const;
     Outcome backUp() const;
 
     QScopedPointer<Sandbox> m_sandbox;
@@ -67,10 +73,11 @@ void tst_ResticRun::fake(const QByteArray &output, const QByteArray &errors,
     qputenv("FAKERESTIC_STATUS", status);
 }
 
-Outcome tst_ResticRun::run(ResticRun *run, const QStringList &arguments) const
+Outcome tst_ResticRun::run(ResticRun *run, const QStringList &arguments,
+                           const QString &outputFile) const
 {
     QSignalSpy finished(run, &ResticRun::finished);
-    run->start(m_sandbox->job.repository, m_sandbox->job.password, arguments);
+    run->start(m_sandbox->job, arguments, outputFile);
     return finished.wait(30000) ? finished.first().first().value<Outcome>() : Outcome();
 }
 
@@ -141,19 +148,32 @@ void tst_ResticRun::aLineThatNeverEndsDoesNotFillTheMemory()
     }
 }
 
-void tst_ResticRun::manyErrorsAreNotAllKept()
+void tst_ResticRun::problemsAreTold()
 {
     QByteArray errors;
     for (int number = 0; number < 10000; ++number) {
         errors += "{\"message_type\":\"error\",\"error\":{\"message\":\"no\"},\"item\":\"/f"
             + QByteArray::number(number) + "\"}\n";
     }
-    fake("", errors, "3");
+    fake("", errors + "Fatal: oh\n", "1");
     const Record record = m_sandbox->backUp();
-    QCOMPARE(record.outcome.kind, Outcome::Incomplete);
     QCOMPARE(record.problems.size(), 10000);
     QCOMPARE(record.problems.last(), QStringLiteral("/f9999: no"));
-    QCOMPARE(record.outcome.details.count(QLatin1Char('\n')), 19);
+    // Not those that have been told.
+    QCOMPARE(record.outcome.details, QStringLiteral("Fatal: oh"));
+}
+
+void tst_ResticRun::manyErrorsAreNotAllKept()
+{
+    QByteArray errors;
+    for (int number = 0; number < 10000; ++number) {
+        errors += "no " + QByteArray::number(number) + '\n';
+    }
+    fake("", errors, "1");
+    ResticRun restic;
+    const QString details = run(&restic).details;
+    QCOMPARE(details.count(QLatin1Char('\n')), 19);
+    QVERIFY(details.endsWith(QLatin1String("no 9999")));
 }
 
 void tst_ResticRun::otherVersionsAreRefusedOrTaken_data()
@@ -196,11 +216,20 @@ void tst_ResticRun::aCrashIsTold()
     QCOMPARE(outcome.details, QStringLiteral("panic: oh"));
 }
 
+void tst_ResticRun::aProgramThatDoesNotStartIsMissing_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::newRow("nothing") << "/no/such/program";
+    QTest::newRow("a folder") << "/";
+    QTest::newRow("a setting left blank") << "";
+}
+
 void tst_ResticRun::aProgramThatDoesNotStartIsMissing()
 {
-    // There, but no program.
-    m_sandbox->useProgram(m_sandbox->job.source);
-    const Outcome outcome = backUp();
+    QFETCH(QString, program);
+    m_sandbox->useProgram(program);
+    ResticRun restic;
+    const Outcome outcome = run(&restic);
     QCOMPARE(outcome.kind, Outcome::Missing);
     QVERIFY(outcome.text().contains(QLatin1String("Install the package \"restic\"")));
 }
@@ -237,6 +266,7 @@ void tst_ResticRun::exitStatusAndWordsAreUnderstood_data()
     };
     row("all well", "0", "warning: something\n", Outcome::Done);
     row("anything", "1", "Fatal: oh\n", Outcome::Failed);
+    row("a crash of its own", "2", "panic: oh\ngoroutine 1 [running]:\n", Outcome::Crashed);
     row("without a word", "1", "", Outcome::Failed);
     row("some files not read", "3", "", Outcome::Incomplete);
     row("old, wrong password", "1", "Fatal: wrong password or no key found\n",
@@ -320,12 +350,44 @@ void tst_ResticRun::theOutputGoesIntoAFile()
     ResticRun restic;
     QSignalSpy messages(&restic, &ResticRun::message);
     QSignalSpy finished(&restic, &ResticRun::finished);
-    restic.start(m_sandbox->job.repository, m_sandbox->job.password, {QStringLiteral("--json")},
+    restic.start(m_sandbox->job, {QStringLiteral("--json")},
                  QFile::decodeName(m_sandbox->path("list")));
     QVERIFY(finished.wait(30000));
     QCOMPARE(finished.first().first().value<Outcome>().skippedLines, 0);
     QCOMPARE(messages.count(), 0);
     QCOMPARE(readFile(m_sandbox->path("list")), QByteArray("{\"a\":1}\nanything\n"));
+}
+
+void tst_ResticRun::aFileThatCannotBeWrittenIsAFailure()
+{
+    fake("{}\n");
+    ResticRun restic;
+    const Outcome outcome = run(&restic, {}, QStringLiteral("/no/such/folder/list"));
+    QCOMPARE(outcome.kind, Outcome::Failed);
+    QVERIFY2(outcome.text().size() > 20, qPrintable(outcome.text()));
+}
+
+void tst_ResticRun::theCacheMovesOnlyWhereThereIsNoPlaceForIt_data()
+{
+    QTest::addColumn<QByteArray>("place");
+    QTest::addColumn<bool>("moves");
+    QTest::newRow("none") << QByteArray() << true;
+    QTest::newRow("a home") << QByteArray("HOME") << false;
+    QTest::newRow("one on Windows") << QByteArray("LOCALAPPDATA") << false;
+}
+
+void tst_ResticRun::theCacheMovesOnlyWhereThereIsNoPlaceForIt()
+{
+    QFETCH(QByteArray, place);
+    QFETCH(bool, moves);
+    const QByteArray home = qgetenv("HOME");
+    qunsetenv("HOME");
+    qunsetenv("RESTIC_CACHE_DIR");
+    qputenv(place.isEmpty() ? "UNUSED" : place.constData(), "/somewhere");
+    const QProcessEnvironment environment = Restic::environment(QStringLiteral("/repository"));
+    qunsetenv(place.isEmpty() ? "UNUSED" : place.constData());
+    qputenv("HOME", home);
+    QCOMPARE(environment.contains(QStringLiteral("RESTIC_CACHE_DIR")), moves);
 }
 
 QTEST_GUILESS_MAIN(tst_ResticRun)

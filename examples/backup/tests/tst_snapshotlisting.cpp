@@ -21,8 +21,13 @@ private slots:
     void pagesAreWhatWasAskedFor();
     void aPageComesBeforeTheListIsWritten();
     void linesThatAreNoFilesAreLeftOut();
+    void brokenLinesAreCountedAndTold();
     void theRealResticListsASnapshot();
     void aFailureIsTold();
+    void aListThatIsCutOffIsTold_data();
+    void aListThatIsCutOffIsTold();
+    void theRealResticTellsOfAListThatIsCutOff();
+    void noSnapshotHasNoFilesAndNeedsNoProgram();
     void anotherSnapshotStartsOver();
     void snapshotsAreRead();
 
@@ -66,6 +71,7 @@ void tst_SnapshotListing::cleanup()
 {
     m_listing.reset();
     qunsetenv("FAKERESTIC_OUTPUT");
+    qunsetenv("FAKERESTIC_ERRORS");
     qunsetenv("FAKERESTIC_STATUS");
 }
 
@@ -82,13 +88,9 @@ void tst_SnapshotListing::fake(const QByteArray &output, const QByteArray &statu
 QString tst_SnapshotListing::page(int count)
 {
     QSignalSpy pages(m_listing.data(), &SnapshotListing::pageRead);
-    QSignalSpy failures(m_listing.data(), &SnapshotListing::failed);
     m_listing->requestPage(count);
-    for (int wait = 0; wait < 100 && pages.isEmpty() && failures.isEmpty(); ++wait) {
-        pages.wait(300);
-    }
-    if (pages.isEmpty()) {
-        return QStringLiteral("failed");
+    if (!pages.wait(30000)) {
+        return QStringLiteral("no answer");
     }
     const QList<SnapshotFile> files = pages.first().first().value<QList<SnapshotFile>>();
     const QString text = files.isEmpty()
@@ -141,6 +143,20 @@ void tst_SnapshotListing::linesThatAreNoFilesAreLeftOut()
     QCOMPARE(page(10), QStringLiteral("/f1 /f2 2 end"));
 }
 
+void tst_SnapshotListing::brokenLinesAreCountedAndTold()
+{
+    fake("reading repository password from stdin\n" + lineOf(1) + "{}\n\nbroken\n" + lineOf(2)
+         + "{\"cut");
+    QSignalSpy failures(m_listing.data(), &SnapshotListing::failed);
+    QCOMPARE(page(1), QStringLiteral("/f1 /f1 1"));
+    QCOMPARE(failures.count(), 0);
+    QCOMPARE(page(1), QStringLiteral("/f2 /f2 1 end"));
+    QCOMPARE(failures.count(), 1);
+    const Outcome outcome = failures.first().first().value<Outcome>();
+    QCOMPARE(outcome.kind, Outcome::Done);
+    QCOMPARE(outcome.skippedLines, 2);
+}
+
 void tst_SnapshotListing::theRealResticListsASnapshot()
 {
     NEEDS_RESTIC();
@@ -158,7 +174,64 @@ void tst_SnapshotListing::aFailureIsTold()
     m_sandbox->backUp();
     m_sandbox->job.password = QStringLiteral("wrong");
     m_listing->open(m_sandbox->job, QStringLiteral("latest"));
-    QCOMPARE(page(10), QStringLiteral("failed"));
+    QSignalSpy failures(m_listing.data(), &SnapshotListing::failed);
+    QCOMPARE(page(10), QStringLiteral("none 0 end"));
+    QCOMPARE(failures.count(), 1);
+    QCOMPARE(failures.first().first().value<Outcome>().kind, Outcome::WrongPassword);
+}
+
+void tst_SnapshotListing::aListThatIsCutOffIsTold_data()
+{
+    QTest::addColumn<QByteArray>("words");
+    QTest::addColumn<int>("kind");
+    QTest::newRow("old") << QByteArray(
+        "JSON encode failed: write /dev/stdout: no space left on device")
+                         << int(Outcome::NoSpace);
+    QTest::newRow("new") << QByteArray("write failed: write /dev/stdout: no space left on device")
+                         << int(Outcome::NoSpace);
+    QTest::newRow("another reason")
+        << QByteArray("write failed: write /dev/stdout: input/output error")
+        << int(Outcome::Failed);
+}
+
+// The program ends with 0 nevertheless.
+void tst_SnapshotListing::aListThatIsCutOffIsTold()
+{
+    QFETCH(QByteArray, words);
+    QFETCH(int, kind);
+    writeFile(m_sandbox->path("errors"), words + '\n' + words + '\n');
+    qputenv("FAKERESTIC_ERRORS", m_sandbox->path("errors"));
+    fake(lines(3));
+    QSignalSpy failures(m_listing.data(), &SnapshotListing::failed);
+    QCOMPARE(page(10), QStringLiteral("/f0 /f2 3 end"));
+    QCOMPARE(failures.count(), 1);
+    QCOMPARE(int(failures.first().first().value<Outcome>().kind), kind);
+}
+
+void tst_SnapshotListing::theRealResticTellsOfAListThatIsCutOff()
+{
+    NEEDS_RESTIC();
+    if (!QFile::exists(QStringLiteral("/dev/full"))) {
+        QSKIP("There is no /dev/full.");
+    }
+    m_sandbox->backUp();
+    ResticRun restic;
+    QSignalSpy finished(&restic, &ResticRun::finished);
+    restic.start(m_sandbox->job,
+                 {QStringLiteral("ls"), QStringLiteral("--json"), QStringLiteral("latest")},
+                 QStringLiteral("/dev/full"));
+    QVERIFY(finished.wait(60000));
+    QCOMPARE(finished.first().first().value<Outcome>().kind, Outcome::NoSpace);
+}
+
+void tst_SnapshotListing::noSnapshotHasNoFilesAndNeedsNoProgram()
+{
+    m_sandbox->useProgram(QStringLiteral("/no/such/program"));
+    QSignalSpy failures(m_listing.data(), &SnapshotListing::failed);
+    QCOMPARE(page(10), QStringLiteral("none 0 end"));
+    m_listing->open(m_sandbox->job, QString());
+    QCOMPARE(page(10), QStringLiteral("none 0 end"));
+    QCOMPARE(failures.count(), 0);
 }
 
 void tst_SnapshotListing::anotherSnapshotStartsOver()

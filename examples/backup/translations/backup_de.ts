@@ -116,8 +116,12 @@ Endstatus:
         <translation>Passwort des Repositorys: </translation>
     </message>
     <message>
-        <source>--init makes a repository, --unlock removes a dead program&apos;s lock.</source>
-        <translation>--init legt ein Repository an, --unlock entfernt die Sperre eines beendeten Programms.</translation>
+        <source>--init makes a repository.</source>
+        <translation>--init legt ein Repository an.</translation>
+    </message>
+    <message>
+        <source>--unlock removes a dead program&apos;s lock.</source>
+        <translation>--unlock entfernt die Sperre eines beendeten Programms.</translation>
     </message>
     <message>
         <source>Say --target, and --run with --source, --verify, --snapshots, or --restore with a snapshot and a folder. --help tells more.</source>
@@ -195,10 +199,6 @@ Endstatus:
     <message>
         <source>Files in a &amp;page:</source>
         <translation>Dateien je S&amp;eite:</translation>
-    </message>
-    <message>
-        <source>Password of the repository %1:</source>
-        <translation>Passwort des Repositorys %1:</translation>
     </message>
     <message>
         <source>Empty folder to restore into</source>
@@ -394,8 +394,8 @@ Endstatus:
         <translation>Dort ist noch kein Repository. Eines anlegen? Wer sein Passwort verliert, verliert die Sicherungen darin.</translation>
     </message>
     <message>
-        <source>A program that is no longer there has left the repository locked. Remove the lock?</source>
-        <translation>Ein Programm, das nicht mehr läuft, hat das Repository gesperrt zurückgelassen. Die Sperre entfernen?</translation>
+        <source>The repository is locked. Remove the lock if the program that made it is gone?</source>
+        <translation>Das Repository ist gesperrt. Die Sperre entfernen, wenn das Programm, das gesperrt hat, nicht mehr läuft?</translation>
     </message>
 </context>
 <context>
@@ -405,8 +405,8 @@ Endstatus:
         <translation>Einige Dateien konnten nicht gelesen werden; alle anderen sind gesichert.</translation>
     </message>
     <message>
-        <source>Cancelled. What was stored so far is used by the next run.</source>
-        <translation>Abgebrochen. Was schon gespeichert ist, verwendet der nächste Lauf.</translation>
+        <source>Cancelled. The next backup uses what was stored so far.</source>
+        <translation>Abgebrochen. Was schon gespeichert ist, verwendet die nächste Sicherung.</translation>
     </message>
     <message>
         <source>There is no restic. Install the package &quot;restic&quot;, or say where the program is: restic=/path/of/restic at the top of %1.</source>
@@ -429,8 +429,8 @@ Endstatus:
         <translation>Das Repository ist gesperrt. Wenn kein anderes Programm es benutzt, entfernen Sie die Sperre, die eines hinterlassen hat; sonst starten Sie dies später noch einmal.</translation>
     </message>
     <message>
-        <source>There is no space left for the repository. Make room, then run this again: earlier snapshots are whole.</source>
-        <translation>Für das Repository ist kein Platz mehr. Schaffen Sie Platz, und starten Sie dies noch einmal: Frühere Snapshots sind heil.</translation>
+        <source>There is no space left. Make room, then run this again: earlier snapshots are whole.</source>
+        <translation>Es ist kein Platz mehr da. Schaffen Sie Platz, und starten Sie dies noch einmal: Frühere Snapshots sind heil.</translation>
     </message>
     <message>
         <source>The source is not there. Is its disk connected?</source>
@@ -441,8 +441,8 @@ Endstatus:
         <translation>Der Ordner für das Wiederhergestellte ist nicht leer, also wurde nichts wiederhergestellt. Wählen Sie einen leeren oder einen neuen.</translation>
     </message>
     <message>
-        <source>The repository is damaged. Save what its disk still gives, and see &quot;restic repair&quot; in restic&apos;s manual.</source>
-        <translation>Das Repository ist beschädigt. Retten Sie, was der Datenträger noch hergibt, und lesen Sie im Handbuch von restic über „restic repair“.</translation>
+        <source>The repository is damaged. Save what its disk still gives, and see in restic&apos;s manual how to repair it.</source>
+        <translation>Das Repository ist beschädigt. Retten Sie, was der Datenträger noch hergibt, und lesen Sie im Handbuch von restic, wie es repariert wird.</translation>
     </message>
     <message>
         <source>restic ended before it was done. Earlier snapshots are whole; run this again.</source>

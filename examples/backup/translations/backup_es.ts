@@ -116,8 +116,12 @@ Estado de salida:
         <translation>Contraseña del repositorio: </translation>
     </message>
     <message>
-        <source>--init makes a repository, --unlock removes a dead program&apos;s lock.</source>
-        <translation>--init crea un repositorio y --unlock quita el bloqueo de un programa que ya no existe.</translation>
+        <source>--init makes a repository.</source>
+        <translation>--init crea un repositorio.</translation>
+    </message>
+    <message>
+        <source>--unlock removes a dead program&apos;s lock.</source>
+        <translation>--unlock quita el bloqueo de un programa que ya no existe.</translation>
     </message>
     <message>
         <source>Say --target, and --run with --source, --verify, --snapshots, or --restore with a snapshot and a folder. --help tells more.</source>
@@ -195,10 +199,6 @@ Estado de salida:
     <message>
         <source>Files in a &amp;page:</source>
         <translation>Archivos por &amp;página:</translation>
-    </message>
-    <message>
-        <source>Password of the repository %1:</source>
-        <translation>Contraseña del repositorio %1:</translation>
     </message>
     <message>
         <source>Empty folder to restore into</source>
@@ -394,8 +394,8 @@ Estado de salida:
         <translation>Allí aún no hay ningún repositorio. ¿Crear uno? Quien pierde su contraseña pierde las copias que contiene.</translation>
     </message>
     <message>
-        <source>A program that is no longer there has left the repository locked. Remove the lock?</source>
-        <translation>Un programa que ya no está dejó bloqueado el repositorio. ¿Quitar el bloqueo?</translation>
+        <source>The repository is locked. Remove the lock if the program that made it is gone?</source>
+        <translation>El repositorio está bloqueado. ¿Quitar el bloqueo, si el programa que lo puso ya no está?</translation>
     </message>
 </context>
 <context>
@@ -405,8 +405,8 @@ Estado de salida:
         <translation>Algunos archivos no se pudieron leer; todos los demás están copiados.</translation>
     </message>
     <message>
-        <source>Cancelled. What was stored so far is used by the next run.</source>
-        <translation>Cancelado. Lo ya guardado lo aprovecha la próxima vez.</translation>
+        <source>Cancelled. The next backup uses what was stored so far.</source>
+        <translation>Cancelado. Lo ya guardado lo aprovecha la próxima copia.</translation>
     </message>
     <message>
         <source>There is no restic. Install the package &quot;restic&quot;, or say where the program is: restic=/path/of/restic at the top of %1.</source>
@@ -429,8 +429,8 @@ Estado de salida:
         <translation>El repositorio está bloqueado. Si ningún otro programa lo usa, quite el bloqueo que dejó alguno; si no, inténtelo más tarde.</translation>
     </message>
     <message>
-        <source>There is no space left for the repository. Make room, then run this again: earlier snapshots are whole.</source>
-        <translation>No queda espacio para el repositorio. Haga sitio e inténtelo otra vez: las instantáneas anteriores están completas.</translation>
+        <source>There is no space left. Make room, then run this again: earlier snapshots are whole.</source>
+        <translation>No queda espacio. Haga sitio e inténtelo otra vez: las instantáneas anteriores están completas.</translation>
     </message>
     <message>
         <source>The source is not there. Is its disk connected?</source>
@@ -441,8 +441,8 @@ Estado de salida:
         <translation>La carpeta en la que restaurar no está vacía, así que no se restauró nada. Elija una vacía o una nueva.</translation>
     </message>
     <message>
-        <source>The repository is damaged. Save what its disk still gives, and see &quot;restic repair&quot; in restic&apos;s manual.</source>
-        <translation>El repositorio está dañado. Salve lo que el disco aún permita y consulte «restic repair» en el manual de restic.</translation>
+        <source>The repository is damaged. Save what its disk still gives, and see in restic&apos;s manual how to repair it.</source>
+        <translation>El repositorio está dañado. Salve lo que el disco aún permita y consulte en el manual de restic cómo repararlo.</translation>
     </message>
     <message>
         <source>restic ended before it was done. Earlier snapshots are whole; run this again.</source>

@@ -3,6 +3,7 @@
 
 #include <QFileInfo>
 #include <QLocale>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -10,14 +11,11 @@ namespace {
 
 QString typeText(const SnapshotFile &file)
 {
-    if (file.type == "dir") {
-        return FileListModel::tr("folder");
-    }
-    if (file.type == "symlink") {
-        return FileListModel::tr("link");
-    }
     const QString suffix = QFileInfo(file.path).suffix();
-    return suffix.isEmpty() ? FileListModel::tr("file") : suffix;
+    return file.type == "dir"    ? FileListModel::tr("folder")
+        : file.type == "symlink" ? FileListModel::tr("link")
+        : suffix.isEmpty()       ? FileListModel::tr("file")
+                                 : suffix;
 }
 
 QString cellText(const SnapshotFile &file, int column)
@@ -38,14 +36,9 @@ QString cellText(const SnapshotFile &file, int column)
 
 bool isBefore(const SnapshotFile &left, const SnapshotFile &right, int column)
 {
-    switch (column) {
-    case FileListModel::Modified:
-        return left.modified < right.modified;
-    case FileListModel::Size:
-        return left.size < right.size;
-    default:
-        return cellText(left, column) < cellText(right, column);
-    }
+    return column == FileListModel::Modified ? left.modified < right.modified
+        : column == FileListModel::Size      ? left.size < right.size
+                                             : cellText(left, column) < cellText(right, column);
 }
 
 } // namespace
@@ -55,10 +48,7 @@ FileListModel::FileListModel(QObject *parent)
 {
     setHorizontalHeaderLabels({tr("Name"), tr("Modified"), tr("Size"), tr("Type"), tr("Rights")});
     connect(&m_listing, &SnapshotListing::pageRead, this, &FileListModel::takePage);
-    connect(&m_listing, &SnapshotListing::failed, this, [this](const Outcome &outcome) {
-        takePage({}, true);
-        emit failed(outcome);
-    });
+    connect(&m_listing, &SnapshotListing::failed, this, &FileListModel::failed);
     // Connected before any view is, so that the files agree with the rows when a view looks.
     connect(this, &FileListModel::rowsInserted, this, [this] {
         m_files += m_page;
@@ -68,15 +58,9 @@ FileListModel::FileListModel(QObject *parent)
 
 void FileListModel::setSnapshot(const BackupJob &job, const QString &id)
 {
-    // The listing forgets a page that was asked for; the list waits for it and does not ask again.
-    const bool isAwaited = m_isRequested;
-    m_hasSnapshot = !id.isEmpty();
     m_files.clear();
     m_listing.open(job, id);
     emit dataChanged(); // at which the list removes the rows
-    if (isAwaited) {
-        LoadItems();
-    }
 }
 
 void FileListModel::setPageSize(int count)
@@ -86,17 +70,11 @@ void FileListModel::setPageSize(int count)
 
 void FileListModel::LoadItems()
 {
-    m_isRequested = true;
-    if (m_hasSnapshot) {
-        m_listing.requestPage(m_pageSize);
-    } else {
-        takePage({}, true);
-    }
+    m_listing.requestPage(m_pageSize);
 }
 
 void FileListModel::takePage(const QList<SnapshotFile> &files, bool completed)
 {
-    m_isRequested = false;
     if (!files.isEmpty()) {
         m_page = files;
         insertRows(int(m_files.size()), int(files.size()));
@@ -113,7 +91,11 @@ QVariant FileListModel::data(const QModelIndex &index, int role) const
     if (role == Qt::ToolTipRole && index.column() == Modified) {
         return QLocale().toString(file.modified, QLocale::LongFormat);
     }
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
+    if (role == Qt::ToolTipRole) {
+        // A name may look like HTML.
+        return Qt::convertFromPlainText(cellText(file, index.column()));
+    }
+    if (role == Qt::DisplayRole) {
         return cellText(file, index.column());
     }
     const bool isAligned = role == Qt::TextAlignmentRole && index.column() == Size;

@@ -48,8 +48,6 @@ private:
     QList<SnapshotFile> m_files; ///< As the rows show them; the paging row is not among them.
     QList<SnapshotFile> m_page; ///< What is being inserted.
     int m_pageSize = 500;
-    bool m_hasSnapshot = false;
-    bool m_isRequested = false;
 };
 
 #endif

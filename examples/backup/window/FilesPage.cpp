@@ -2,15 +2,17 @@
 #include "FilesPage.h"
 
 #include "FileListModel.h"
+#include "JobsPage.h"
 
 #include <FileListTableView.h>
 #include <SpinBox.h>
 
 #include <QComboBox>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontInfo>
 #include <QHBoxLayout>
-#include <QInputDialog>
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
@@ -30,7 +32,7 @@ FilesPage::FilesPage(BackupRun *run, QWidget *parent)
     connect(m_model, &FileListModel::failed, this, &FilesPage::showOutcome);
     connect(m_restore, &QPushButton::clicked, this, &FilesPage::restore);
     connect(run, &BackupRun::finished, this, [this](const Outcome &outcome) {
-        if (!outcome.snapshot.isEmpty()) {
+        if (!outcome.snapshot.isEmpty() && m_run->source() == m_job.source) {
             load();
         }
     });
@@ -114,11 +116,7 @@ void FilesPage::showEvent(QShowEvent *event)
 
 void FilesPage::reload()
 {
-    if (m_job.password.isEmpty()) {
-        const QString question = tr("Password of the repository %1:").arg(m_job.repository);
-        m_job.password
-            = QInputDialog::getText(this, window()->windowTitle(), question, QLineEdit::Password);
-    }
+    JobsPage::askForPassword(this, &m_job);
     load();
 }
 
@@ -138,9 +136,7 @@ void FilesPage::load()
     m_reading.reset(new ResticRun);
     connect(m_reading.get(), &ResticRun::message, this, &FilesPage::offer);
     connect(m_reading.get(), &ResticRun::finished, this, &FilesPage::showOutcome);
-    m_reading->start(
-        m_job.repository, m_job.password,
-        {"snapshots", "--json", "--no-lock", "--path", Restic::sourcePath(m_job.source)});
+    m_reading->start(m_job, {"snapshots", "--json", "--no-lock"});
 }
 
 void FilesPage::clear(const QString &hint)
@@ -154,7 +150,12 @@ void FilesPage::clear(const QString &hint)
 // The newest first.
 void FilesPage::offer(const QJsonDocument &message)
 {
-    const QList<Snapshot> snapshots = Snapshot::allIn(message);
+    const QString path = Restic::sourcePath(m_job.source);
+    QList<Snapshot> snapshots = Snapshot::allIn(message, QDir::toNativeSeparators(path));
+    if (snapshots.isEmpty() && !QFileInfo::exists(path)) {
+        // A link that led to what is lost does not tell any more under which path it was stored.
+        snapshots = Snapshot::allIn(message);
+    }
     for (auto snapshot = snapshots.crbegin(); snapshot != snapshots.crend(); ++snapshot) {
         const QStringList texts = {QLocale().toString(snapshot->time, QLocale::ShortFormat),
                                    snapshot->id.left(8), snapshot->paths.join(", ")};
@@ -164,6 +165,7 @@ void FilesPage::offer(const QJsonDocument &message)
 
 void FilesPage::listFiles()
 {
+    m_hint->clear();
     m_model->setSnapshot(m_job, m_snapshots->currentData().toString());
     m_restore->setEnabled(m_snapshots->currentIndex() >= 0);
 }
@@ -179,14 +181,13 @@ void FilesPage::showOutcome(const Outcome &outcome)
 
 void FilesPage::restore()
 {
+    // Now: the list may start over while the dialog is open.
+    const QString snapshot = m_snapshots->currentData().toString();
     const QString folder
         = QFileDialog::getExistingDirectory(this, tr("Empty folder to restore into"));
-    if (folder.isEmpty()) {
-        return;
-    }
-    if (m_run->restore(m_job, m_snapshots->currentData().toString(), folder)) {
+    if (!folder.isEmpty() && m_run->restore(m_job, snapshot, folder)) {
         emit started(tr("Restoring \"%1\" into %2").arg(m_job.name, folder));
-    } else {
+    } else if (!folder.isEmpty()) {
         emit message(tr("Nothing was restored: there is one run at a time."));
     }
 }

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 JobsPage::JobsPage(JobModel *jobs, BackupRun *run, QWidget *parent)
@@ -58,11 +59,7 @@ void JobsPage::setUpTable()
     connect(m_table,
             QOverload<QWidget *, int, int, QStringList>::of(&EditableTableView::buttonClicked),
             this, [this](QWidget *, int row, int column) {
-                if (column == JobModel::Run) {
-                    runJob(row);
-                } else {
-                    removeJob(row);
-                }
+                column == JobModel::Run ? runJob(row) : removeJob(row);
             });
 
     // The rest is as with any table view.
@@ -118,6 +115,18 @@ BackupJob JobsPage::currentJob() const
 {
     const int row = qMax(0, m_table->currentIndex().row());
     return row < m_jobs->rowCount() ? m_jobs->job(row) : BackupJob();
+}
+
+bool JobsPage::askForPassword(QWidget *parent, BackupJob *job)
+{
+    if (job->password.isEmpty()) {
+        // One ampersand is the mark of a shortcut there.
+        const QString address = QString(job->repository).replace('&', "&&");
+        const QString question = tr("Password of the repository %1:").arg(address);
+        job->password = QInputDialog::getText(parent, parent->window()->windowTitle(), question,
+                                              QLineEdit::Password);
+    }
+    return !job->password.isEmpty();
 }
 
 // A choice in a combo box is made by choosing: nobody expects to have to press Enter as well.
@@ -181,7 +190,8 @@ void JobsPage::addJob()
 
 void JobsPage::runJob(int row)
 {
-    const BackupJob job = m_jobs->job(row);
+    BackupJob job = m_jobs->job(row);
+    job.uploadLimit = m_bandwidthLimit->value();
     if (row == m_running.row()) {
         m_run->cancel();
     } else if (m_run->isRunning()) {
@@ -189,20 +199,7 @@ void JobsPage::runJob(int row)
     } else if (job.repository.isEmpty()) {
         emit message(tr("Say first where the backups of \"%1\" are to be kept.").arg(job.name));
         editCell(row, JobModel::Repository);
-    } else {
-        start(row, job);
-    }
-}
-
-void JobsPage::start(int row, BackupJob job)
-{
-    if (job.password.isEmpty()) {
-        const QString question = tr("Password of the repository %1:").arg(job.repository);
-        job.password
-            = QInputDialog::getText(this, window()->windowTitle(), question, QLineEdit::Password);
-    }
-    m_run->setUploadLimit(m_bandwidthLimit->value());
-    if (!job.password.isEmpty() && m_run->backUp(job)) {
+    } else if (askForPassword(this, &job) && m_run->backUp(job)) {
         m_running = m_jobs->index(row, JobModel::Run);
         dressButtons();
         emit started(tr("Backing up \"%1\"").arg(job.name));
@@ -216,9 +213,10 @@ void JobsPage::removeJob(int row)
         emit message(tr("\"%1\" is running. Cancel it before you remove it.").arg(name));
         return;
     }
-    const QString question = tr("Remove \"%1\" from the list? Its backups stay in the repository.");
-    if (QMessageBox::question(this, window()->windowTitle(), question.arg(name))
-        == QMessageBox::Yes) {
+    // The name may look like HTML.
+    const QString question = Qt::convertFromPlainText(
+        tr("Remove \"%1\" from the list? Its backups stay in the repository.").arg(name));
+    if (QMessageBox::question(this, window()->windowTitle(), question) == QMessageBox::Yes) {
         m_jobs->removeRow(row);
     }
 }

@@ -25,6 +25,9 @@ public:
     /// The job in the current row; the first one if there is no current row.
     BackupJob currentJob() const;
 
+    /// Where the job has none. Returns false if the user does not say it.
+    static bool askForPassword(QWidget *parent, BackupJob *job);
+
 signals:
     /// Another job is the current one, or it has been edited.
     void currentJobChanged();
@@ -46,7 +49,6 @@ private:
     void setUpLayout();
     void dressButtons();
     void runJob(int row);
-    void start(int row, BackupJob job);
     void removeJob(int row);
     void editCell(int row, int column);
 

@@ -64,11 +64,8 @@ QWidget *MainWindow::makePages()
     connect(jobs, &JobsPage::currentJobChanged, files, setJob);
     connect(jobs, &JobsPage::started, this, &MainWindow::showStart);
     connect(files, &FilesPage::started, this, &MainWindow::showStart);
-    const auto showMessage = [this](const QString &text) {
-        statusBar()->showMessage(text);
-    };
-    connect(jobs, &JobsPage::message, this, showMessage);
-    connect(files, &FilesPage::message, this, showMessage);
+    connect(jobs, SIGNAL(message(QString)), statusBar(), SLOT(showMessage(QString)));
+    connect(files, SIGNAL(message(QString)), statusBar(), SLOT(showMessage(QString)));
     return pages;
 }
 
@@ -147,7 +144,7 @@ void MainWindow::ask(BackupRun::Question question)
     const QString text = question == BackupRun::CreateRepository
         ? tr("There is no repository there yet. Create one? Whoever loses its password loses the "
              "backups in it.")
-        : tr("A program that is no longer there has left the repository locked. Remove the lock?");
+        : tr("The repository is locked. Remove the lock if the program that made it is gone?");
     m_run->answer(QMessageBox::question(this, windowTitle(), text) == QMessageBox::Yes);
 }
 
