@@ -4,34 +4,12 @@
 #include "TestCase.h"
 #include "TwoPlots.h"
 
-#include <QPicture>
-
 #include <cmath>
 
 namespace {
 
 /// Something done to a chart and a bare plot alike.
 typedef void (*Change)(QwtPlot *plot);
-
-/// A recording as large as a screen, as a printer is: the chart can't tell by its size that it has
-/// no pixels.
-class LargePicture : public QPicture
-{
-protected:
-    int metric(PaintDeviceMetric which) const override
-    {
-        return which == PdmWidth || which == PdmHeight ? 2000 : QPicture::metric(which);
-    }
-};
-
-template <class Plot> QByteArray recordedCanvas(Plot *plot)
-{
-    LargePicture picture;
-    QPainter painter(&picture);
-    plot->drawCanvas(&painter);
-    painter.end();
-    return QByteArray(picture.data(), static_cast<int>(picture.size()));
-}
 
 /// A widget that shows a plot's canvas and nothing else.
 template <class Plot> class CanvasCopy : public QWidget
@@ -270,7 +248,6 @@ private Q_SLOTS:
     void paintsTheSameWhateverPartIsShown();
     void paintsTheSameInAWidgetThatIsTransformed_data();
     void paintsTheSameInAWidgetThatIsTransformed();
-    void recordsWhatABarePlotRecords();
 };
 
 void ChangedPlotPictureTest::initTestCase()
@@ -394,15 +371,6 @@ void ChangedPlotPictureTest::paintsTheSameInAWidgetThatIsTransformed()
     const QImage picture = renderedCanvas(&plots.chart, change);
 
     QCOMPARE(differences(picture, renderedCanvas(&plots.bare, change)), 0);
-}
-
-void ChangedPlotPictureTest::recordsWhatABarePlotRecords()
-{
-    TwoPlots plots(samplesOf(noise, 1802));
-
-    const QByteArray recorded = recordedCanvas(&plots.chart);
-
-    QVERIFY(recorded == recordedCanvas(&plots.bare));
 }
 
 TESSALINE_TEST_MAIN(ChangedPlotPictureTest)

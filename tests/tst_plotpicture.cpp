@@ -6,6 +6,32 @@
 
 #include <qwt_scale_map.h>
 
+#include <QPicture>
+
+namespace {
+
+/// A recording as large as a screen, as a printer is: the chart can't tell by its size that it has
+/// no pixels.
+class LargePicture : public QPicture
+{
+protected:
+    int metric(PaintDeviceMetric which) const override
+    {
+        return which == PdmWidth || which == PdmHeight ? 2000 : QPicture::metric(which);
+    }
+};
+
+template <class Plot> QByteArray recordedCanvas(Plot *plot)
+{
+    LargePicture picture;
+    QPainter painter(&picture);
+    plot->drawCanvas(&painter);
+    painter.end();
+    return QByteArray(picture.data(), static_cast<int>(picture.size()));
+}
+
+} // namespace
+
 class PlotPictureTest : public TestCase
 {
     Q_OBJECT
@@ -19,6 +45,7 @@ private Q_SLOTS:
     void paintsTheSameAtEachPixelRatio_data();
     void paintsTheSameAtEachPixelRatio();
     void paintsTheSamePartOfItsCurve();
+    void recordsWhatABarePlotRecords();
 };
 
 void PlotPictureTest::initTestCase()
@@ -132,6 +159,15 @@ void PlotPictureTest::paintsTheSamePartOfItsCurve()
     QCOMPARE(differences(images.first(), images.last()), 0);
     const QPoint beforeIt(20, plots.chart.canvas()->contentsRect().bottom() - 5);
     QCOMPARE(images.first().pixel(beforeIt), QColor(Qt::white).rgb());
+}
+
+void PlotPictureTest::recordsWhatABarePlotRecords()
+{
+    TwoPlots plots(samplesOf(noise, 1802));
+
+    const QByteArray recorded = recordedCanvas(&plots.chart);
+
+    QVERIFY(recorded == recordedCanvas(&plots.bare));
 }
 
 TESSALINE_TEST_MAIN(PlotPictureTest)
