@@ -62,6 +62,20 @@ void press(Qt::Key key)
     QTest::keyClick(QApplication::focusWidget(), key);
 }
 
+/// Counts how often the focus leaves it.
+template <class View> class LeftView : public View
+{
+public:
+    int focusOuts = 0;
+
+protected:
+    void focusOutEvent(QFocusEvent *event) override
+    {
+        ++focusOuts;
+        View::focusOutEvent(event);
+    }
+};
+
 } // namespace
 
 class ButtonFocusTest : public TestCase
@@ -226,20 +240,8 @@ void ButtonFocusTest::announcesNoCurrentCellWhenClickedFromAnEditor()
 
 void ButtonFocusTest::announcesThatTheTableLosesTheFocus()
 {
-    class Table : public EditableTableView
-    {
-    public:
-        int focusOuts = 0;
-
-    protected:
-        void focusOutEvent(QFocusEvent *event) override
-        {
-            ++focusOuts;
-            EditableTableView::focusOutEvent(event);
-        }
-    };
     ButtonTable table;
-    Table view;
+    LeftView<EditableTableView> view;
     view.setColumns(table.view.getColumns());
     view.setModel(&table.model);
     showWindow(&view, 400, 200);
@@ -324,20 +326,8 @@ void ButtonFocusTest::keepsTheCellThatTheEndOfAnEditMovesTo()
 
 void ButtonFocusTest::announcesThatTheFileListLosesTheFocus()
 {
-    class NotingList : public FileListTableView
-    {
-    public:
-        int focusOuts = 0;
-
-    protected:
-        void focusOutEvent(QFocusEvent *event) override
-        {
-            ++focusOuts;
-            FileListTableView::focusOutEvent(event);
-        }
-    };
     PagedModel model;
-    NotingList view;
+    LeftView<FileListTableView> view;
     view.setModel(&model);
     model.insertPage(1);
     showWindow(&view, 600, 200);

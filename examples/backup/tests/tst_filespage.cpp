@@ -41,6 +41,17 @@ QByteArray contentBelow(const QString &folder, const QString &name)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// Backs the first job up twice, a file of which changes meanwhile, and chooses the older snapshot.
+void chooseTheFirst(const Window &window)
+{
+    window.backUp(0);
+    window.write(QStringLiteral("letters/a"), "changed");
+    window.backUp(0);
+    window.showPage(filesPage);
+    QTRY_COMPARE_WITH_TIMEOUT(snapshots(window)->count(), 2, 60000);
+    QTest::keyClick(snapshots(window), Qt::Key_Down);
+}
+
 } // namespace
 
 class tst_FilesPage : public QObject
@@ -237,12 +248,7 @@ void tst_FilesPage::restoresTheChosenSnapshot()
 {
     NEEDS_RESTIC()
     const Window window;
-    window.backUp(0);
-    window.write(QStringLiteral("letters/a"), "changed");
-    window.backUp(0);
-    window.showPage(filesPage);
-    QTRY_COMPARE_WITH_TIMEOUT(snapshots(window)->count(), 2, 60000);
-    QTest::keyClick(snapshots(window), Qt::Key_Down);
+    chooseTheFirst(window);
     const QString folder = window.path(QStringLiteral("restored"));
     QDir().mkpath(folder);
     chooseInNextDialog(folder);
@@ -259,12 +265,7 @@ void tst_FilesPage::restoresTheSnapshotChosenBeforeAskingForAFolder()
 {
     NEEDS_RESTIC()
     const Window window;
-    window.backUp(0);
-    window.write(QStringLiteral("letters/a"), "changed");
-    window.backUp(0);
-    window.showPage(filesPage);
-    QTRY_COMPARE_WITH_TIMEOUT(snapshots(window)->count(), 2, 60000);
-    QTest::keyClick(snapshots(window), Qt::Key_Down);
+    chooseTheFirst(window);
     const QString folder = window.path(QStringLiteral("restored"));
     QDir().mkpath(folder);
     inNext<QFileDialog>([&window, folder](QFileDialog *) {
