@@ -53,6 +53,7 @@ public:
 
     int run()
     {
+        QDir().mkpath(m_pictures);
         take("jobs-empty", &m_window);
         addJobs();
         takeBackup();
@@ -131,7 +132,8 @@ private:
         QTabWidget *tabs = m_window.findChild<QTabWidget *>();
         for (int page = 0; page < tabs->count(); ++page) {
             tabs->setCurrentIndex(page);
-            if (page == 1 && !m_run->isRunning()) {
+            // A page of no snapshot comes first, while snapshots are looked for.
+            for (int pages = 0; page == 1 && !m_run->isRunning() && pages < 2; ++pages) {
                 waitFor(m_window.findChild<FileListModel *>(), SIGNAL(pageLoaded(qint64,bool)));
             }
             take(names[page] + state, &m_window);
@@ -142,9 +144,7 @@ private:
     void take(const QString &name, QWidget *widget)
     {
         QApplication::processEvents();
-        const QString path = QDir(m_pictures).filePath(name + ".png");
-        QDir().mkpath(m_pictures);
-        m_exitStatus |= widget->grab().save(path) ? 0 : 1;
+        m_exitStatus |= widget->grab().save(QDir(m_pictures).filePath(name + ".png")) ? 0 : 1;
     }
 
     QString m_pictures;
